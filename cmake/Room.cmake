@@ -1,0 +1,50 @@
+# A room is one folder of src/ and one static library. Its headers are found only by the targets that
+# link it, so that an include against the arrows of docs/architecture.md does not compile.
+#
+#   zephyrix_room(<folder> SOURCES <files...> USES <libraries and rooms...>)
+#
+# Include a header as "folder/Header.h".
+function(zephyrix_room folder)
+    cmake_parse_arguments(PARSE_ARGV 1 room "" "" "SOURCES;USES")
+    set(target zephyrix_${folder})
+    add_library(${target} STATIC ${room_SOURCES})
+    add_library(Zephyrix::${folder} ALIAS ${target})
+    zephyrix_own_include_root(${folder} root)
+    target_include_directories(${target} PUBLIC "${root}")
+    target_link_libraries(${target} PUBLIC ${room_USES} PRIVATE zephyrix_compiler)
+endfunction()
+
+# Makes a folder that holds nothing but a link to src/<folder>, and gives its path back.
+function(zephyrix_own_include_root folder result)
+    set(root "${CMAKE_BINARY_DIR}/rooms/${folder}")
+    file(MAKE_DIRECTORY "${root}")
+    file(CREATE_LINK "${CMAKE_SOURCE_DIR}/src/${folder}" "${root}/${folder}" SYMBOLIC)
+    set(${result} "${root}" PARENT_SCOPE)
+endfunction()
+
+# A program of the project: what a user starts, with the resources of resources/ inside.
+#
+#   zephyrix_program(<name> SOURCES <files...> USES <libraries and rooms...>)
+function(zephyrix_program name)
+    cmake_parse_arguments(PARSE_ARGV 1 program "" "" "SOURCES;USES")
+    add_executable(${name} ${program_SOURCES})
+    target_link_libraries(${name} PRIVATE ${program_USES} zephyrix_compiler)
+    install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+endfunction()
+
+# The tests of a room: one program, one entry of ctest. It links that room and nothing above it.
+#
+#   zephyrix_test(<name> SOURCES <files...> USES <libraries and rooms...>)
+#
+# Its files find their reference data below TEST_DATA_DIR.
+function(zephyrix_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 test "" "" "SOURCES;USES")
+    add_executable(${name} ${test_SOURCES})
+    target_link_libraries(${name} PRIVATE zephyrix_test_support ${test_USES} zephyrix_compiler)
+    target_compile_definitions(${name} PRIVATE
+        TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
+        PROGRAM_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}"
+        SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()
