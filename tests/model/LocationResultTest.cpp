@@ -1,0 +1,209 @@
+#include <cmath>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "foundation/NamedException.h"
+#include "model/LocationResult.h"
+
+namespace zephyrix {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+/// The least that adopts Location: nothing but a uid.
+class BarePlace : public Location {
+  public:
+    explicit BarePlace(std::optional<Number> uid) : uid_(uid) {}
+    [[nodiscard]] std::optional<Number> uid() const override { return uid_; }
+    void setUid(std::optional<Number> uid) override { uid_ = uid; }
+    [[nodiscard]] std::optional<QString> name() const override { return {}; }
+    void setName(std::optional<QString> /*name*/) override {}
+    [[nodiscard]] std::optional<QString> timezone() const override { return {}; }
+    void setTimezone(std::optional<QString> /*timezone*/) override {}
+    [[nodiscard]] std::optional<Number> longitude() const override { return {}; }
+    void setLongitude(std::optional<Number> /*longitude*/) override {}
+    [[nodiscard]] std::optional<Number> latitude() const override { return {}; }
+    void setLatitude(std::optional<Number> /*latitude*/) override {}
+    [[nodiscard]] std::optional<Number> locationType() const override { return {}; }
+    void setLocationType(std::optional<Number> /*type*/) override {}
+
+  private:
+    std::optional<Number> uid_;
+};
+
+QString reasonOfAsDict(const LocationResult& place) {
+    try {
+        (void)place.asDict();
+    } catch (const NamedException& exception) {
+        EXPECT_EQ(exception.name(), QStringLiteral("QKInvalidLocationException"));
+        EXPECT_TRUE(exception.userInfo().isEmpty());
+        return exception.reason();
+    }
+    return QStringLiteral("none");
+}
+
+TEST(LocationResult, DefaultPlacesHoldExactlyTheirKeys) {
+    EXPECT_THAT(LocationResult::defaultSearchResult().asDict().keys(),
+                ElementsAre(QStringLiteral("country"), QStringLiteral("country-name"),
+                            QStringLiteral("latitude"), QStringLiteral("locationType"),
+                            QStringLiteral("longitude"), QStringLiteral("name"),
+                            QStringLiteral("province-name"), QStringLiteral("provinceID"),
+                            QStringLiteral("timezone"), QStringLiteral("uid")));
+    const QVariantMap bad = LocationResult::defaultBadSearchResult().asDict();
+    EXPECT_EQ(bad.size(), 9);
+    EXPECT_FALSE(bad.contains(QStringLiteral("provinceID")));
+    EXPECT_EQ(bad.value(QStringLiteral("country")), QVariant(99LL));
+}
+
+TEST(LocationResult, DefaultCoordinatesAreSinglePrecision) {
+    const QVariantMap dict = LocationResult::defaultSearchResult().asDict();
+    EXPECT_EQ(dict.value(QStringLiteral("latitude")).typeId(), QMetaType::Float);
+    EXPECT_EQ(dict.value(QStringLiteral("latitude")).toDouble(), 52.529998779296875);
+    EXPECT_EQ(dict.value(QStringLiteral("longitude")).toDouble(), 13.380000114440918);
+}
+
+TEST(LocationResult, EmptyDictionaryGivesZeroNumbersAndNoTexts) {
+    const LocationResult place((QVariantMap()));
+    for (const auto& number : {place.city(), place.country(), place.inhabitants(), place.favorite(),
+                               place.longitude(), place.latitude()})
+        EXPECT_EQ(number, Number(0));
+    EXPECT_EQ(place.longitude()->kind(), Number::Kind::Double);
+    EXPECT_EQ(place.city()->kind(), Number::Kind::Integer);
+    EXPECT_FALSE(place.isFavorite());
+    EXPECT_FALSE(place.locationType() || place.uid() || place.provinceID() || place.elevation());
+    EXPECT_FALSE(place.name() || place.timezone() || place.deviceId() || place.countryName());
+    EXPECT_FALSE(place.checkValidity());
+    EXPECT_FALSE(place.objTimeZone().isValid());
+}
+
+TEST(LocationResult, DictionaryRoundTripDropsOnlyTheProvinceNumber) {
+    QVariantMap dict = LocationResult::defaultSearchResult().asDict();
+    dict.insert(QStringLiteral("deviceId"), QString(QLatin1String("")));
+    dict.insert(QStringLiteral("favorite"), 1);
+    const LocationResult place = LocationResult::locationResultWithDict(dict);
+    EXPECT_TRUE(place.isFavorite());
+    EXPECT_TRUE(place.isNetatmoStation());
+    EXPECT_TRUE(place.checkValidity());
+
+    dict.remove(QStringLiteral("provinceID"));
+    dict.insert(QStringLiteral("city"), 0);
+    dict.insert(QStringLiteral("inhabitants"), 0);
+    EXPECT_EQ(place.asDict(), dict);
+}
+
+TEST(LocationResult, WrongTypesAreReadAsFarAsUsable) {
+    const LocationResult place(QVariantMap{
+        {QStringLiteral("uid"), QStringLiteral("17 or so")},
+        {QStringLiteral("name"), 42},
+        {QStringLiteral("timezone"), QVariantList{1}},
+        {QStringLiteral("latitude"), QStringLiteral("52.5N")},
+        {QStringLiteral("longitude"), QVariantMap()},
+        {QStringLiteral("favorite"), true},
+        {QStringLiteral("locationType"), QVariantList()},
+    });
+    EXPECT_EQ(place.uid(), Number(17));
+    EXPECT_EQ(place.latitude(), Number(52.5));
+    EXPECT_EQ(place.longitude(), Number(0.0));
+    EXPECT_EQ(place.locationType(), Number(0));
+    EXPECT_TRUE(place.isFavorite());
+    EXPECT_FALSE(place.name() || place.timezone());
+    EXPECT_FALSE(place.checkValidity());
+}
+
+TEST(LocationResult, AsDictNamesTheFirstMissingValue) {
+    LocationResult place;
+    EXPECT_EQ(reasonOfAsDict(place), QStringLiteral("Name cannot be nil"));
+    place.setName(QStringLiteral(""));
+    EXPECT_EQ(reasonOfAsDict(place), QStringLiteral("Longitude cannot be nil"));
+    place.setLongitude(Number(0));
+    EXPECT_EQ(reasonOfAsDict(place), QStringLiteral("Latitude cannot be nil"));
+    place.setLatitude(Number(0));
+    EXPECT_EQ(reasonOfAsDict(place), QStringLiteral("none"));
+}
+
+TEST(LocationResult, ValidityNeedsUidNameAndAPlaceOffTheOrigin) {
+    struct Case {
+        int uid;
+        const char* name;
+        double latitude;
+        double longitude;
+        bool valid;
+        const char* why;
+    };
+    for (const Case& c : {Case{1, "x", 0.0, 5.0, true, "on the equator"},
+                          Case{1, "x", -5.0, 0.0, true, "on the prime meridian"},
+                          Case{1, "x", 0.0, 0.0, false, "at the origin"},
+                          Case{1, "x", 1e-50, 0.0, false, "nothing left in single precision"},
+                          Case{0, "x", 5.0, 5.0, false, "uid below 1"},
+                          Case{-7, "x", 5.0, 5.0, false, "negative uid"},
+                          Case{1, "", 5.0, 5.0, false, "empty name"}}) {
+        LocationResult place;
+        place.setUid(Number(c.uid));
+        place.setName(QString::fromLatin1(c.name));
+        place.setLatitude(Number(c.latitude));
+        place.setLongitude(Number(c.longitude));
+        EXPECT_EQ(place.checkValidity(), c.valid) << c.why;
+    }
+}
+
+TEST(LocationResult, OnlyTheUidDecidesEquality) {
+    LocationResult place = LocationResult::defaultSearchResult();
+    const BarePlace same(Number(18228265.0));
+    const BarePlace different(Number(18228266));
+    const BarePlace unknown(std::nullopt);
+    EXPECT_TRUE(place.isEqual(&same));
+    EXPECT_FALSE(place.isEqual(&different));
+    EXPECT_TRUE(place.isEqual(&unknown));
+    EXPECT_FALSE(place.isEqual(nullptr));
+    place.setUid(std::nullopt);
+    EXPECT_FALSE(place.isEqual(&same));
+    EXPECT_TRUE(place.isEqual(&unknown));
+}
+
+TEST(LocationResult, FavoriteSettersAreNotSymmetric) {
+    LocationResult place = LocationResult::defaultSearchResult();
+    place.setFavorite(Number(0));
+    place.setIsFavorite(true);
+    EXPECT_EQ(place.asDict().value(QStringLiteral("favorite")), QVariant(0LL));
+    place.setFavorite(Number(2));
+    EXPECT_TRUE(place.isFavorite());
+    place.setFavorite(std::nullopt);
+    EXPECT_FALSE(place.isFavorite());
+}
+
+TEST(LocationResult, DistanceIsTheGreatCircleInSinglePrecision) {
+    const LocationResult berlin = LocationResult::defaultSearchResult();
+    EXPECT_NEAR(berlin.distance({48.14, 11.58}), 504.54, 0.005);
+    EXPECT_NEAR(berlin.distance({-52.53, -166.62}), 6371.0 * 3.14159265, 0.5);
+    // 1e-9 degrees are less than single precision can tell apart: the same spot, 0 or no number.
+    const double sameSpot = berlin.distance({52.53 + 1e-9, 13.38});
+    EXPECT_TRUE(std::isnan(sameSpot) || sameSpot < 0.2) << sameSpot;
+}
+
+TEST(LocationResult, TimeZoneIsKeptOnceFound) {
+    LocationResult place;
+    place.setTimezone(QStringLiteral("Nowhere/Land"));
+    EXPECT_FALSE(place.objTimeZone().isValid());
+    place.setTimezone(QStringLiteral("Asia/Kolkata"));
+    EXPECT_EQ(place.objTimeZone().id(), "Asia/Kolkata");
+    place.setTimezone(QStringLiteral("Europe/Berlin"));
+    EXPECT_EQ(place.objTimeZone().id(), "Asia/Kolkata");
+    place.setObjTimeZone({});
+    EXPECT_EQ(place.objTimeZone().id(), "Europe/Berlin");
+}
+
+TEST(LocationResult, DescriptionShowsTheDictionaryOfAValidPlace) {
+    LocationResult place = LocationResult::defaultSearchResult();
+    EXPECT_THAT(place.description().toStdString(), HasSubstr("latitude = 52.53;"));
+    place.setUid(std::nullopt);
+    EXPECT_TRUE(place.description().endsWith(QStringLiteral(">, <invalid LocationResult>")));
+    // Valid by its latitude alone, yet without dictionary form.
+    place.setUid(Number(1));
+    place.setLongitude(std::nullopt);
+    EXPECT_THROW((void)place.description(), NamedException);
+}
+
+}  // namespace
+}  // namespace zephyrix
