@@ -1,0 +1,119 @@
+#include <array>
+
+#include <QDateTime>
+#include <QJsonDocument>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "foundation/Description.h"
+#include "model/Obs.h"
+
+namespace zephyrix {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::internal::CaptureStderr;
+using ::testing::internal::GetCapturedStderr;
+
+QVariantMap fromJson(const char* text) {
+    return QJsonDocument::fromJson(text).toVariant().toMap();
+}
+
+TEST(Obs, ReadsEachFieldFromItsOwnKey) {
+    const Obs obs(fromJson(R"({"date": 1433152800.25, "symbol": 1, "tt": 2, "td": 3, "dd": 4,
+        "ff": 5, "ffg": 6, "rrr": 7, "rrrh": 8, "n": 9, "ww": 10, "ppp": -9999, "TT": 99})"));
+    const std::array fields{obs.symbol, obs.tt,   obs.td, obs.dd, obs.ff, obs.ffg,
+                            obs.rrr,    obs.rrrh, obs.n,  obs.ww, obs.ppp};
+    const std::array values{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, -9999};
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        EXPECT_EQ(fields[i], Number(values[i])) << i;
+    EXPECT_EQ(obs.date, Instant::fromSecondsSince1970(1433152800.25));
+    EXPECT_TRUE(obs.isValid());
+}
+
+TEST(Obs, ValueOfTheWrongTypeIsAbsentAndTold) {
+    const QVariantMap wrong = fromJson(
+        R"({"date": "1433152800", "datetime": 1433152800, "symbol": "3", "tt": true, "td": null,
+            "dd": [1, {"a": 2.5}]})");
+    CaptureStderr();
+    const Obs obs(wrong);
+    const std::string log = GetCapturedStderr();
+    EXPECT_FALSE(obs.date || obs.symbol || obs.tt || obs.td || obs.dd);
+    for (const char* line :
+         {"object 3 is not a number!\n", "object true is not a number!\n",
+          "object <null> is not a number!\n", "object (1, {a = 2.5}) is not a number!\n"})
+        EXPECT_THAT(log, HasSubstr(line));
+    EXPECT_EQ(std::count(log.begin(), log.end(), '\n'), 4);  // dates are dropped in silence
+    EXPECT_FALSE(obs.isValid());
+}
+
+TEST(Obs, IsValidOnlyWithDateAndSymbol) {
+    EXPECT_FALSE(Obs(fromJson(R"({"symbol": 3})")).isValid());
+    EXPECT_FALSE(Obs(fromJson(R"({"date": 0})")).isValid());
+    EXPECT_TRUE(Obs(fromJson(R"({"date": 0, "symbol": 0})")).isValid());
+}
+
+TEST(Obs, OfTwoDatesTheLastVisitedWins) {
+    const auto bothAt = [](const QVariant& dateTime) {
+        return Obs({{QStringLiteral("date"), 5}, {QStringLiteral("datetime"), dateTime}}).date;
+    };
+    EXPECT_EQ(bothAt(QStringLiteral("1970-01-01T00:00:09Z")), Instant::fromSecondsSince1970(9));
+    EXPECT_EQ(bothAt(QStringLiteral("rubbish")), std::nullopt);
+}
+
+TEST(Obs, GivesBackItsDictionaryUnchanged) {
+    const QVariantMap dictionary = fromJson(
+        R"({"datetime": "2015-06-01T12:00:00Z", "symbol": 1000000, "tt": 1.5, "extra": [null]})");
+    Obs obs(dictionary);
+    obs.tt = Number(99);
+    EXPECT_EQ(obs.asDict(), dictionary);
+    obs.dict.reset();
+    EXPECT_EQ(obs.asDict(), QVariantMap());
+}
+
+struct DateText {
+    const char* text;
+    double seconds;  // since 1970, or `refused`
+};
+
+constexpr double refused = -1.0;
+constexpr double tenOClock = 1433152800.0;  // `date -u -d '2015-06-01 10:00:00' +%s`
+
+constexpr std::array dateTexts{
+    DateText{"2015-06-01T12:00:00+02:00", tenOClock},
+    DateText{"2015-06-01T10:00:00Z", tenOClock},
+    DateText{"2015-06-01T06:29:45-03:30:15", tenOClock},
+    DateText{"2015-06-02T09:59:00+23:59", tenOClock},
+    DateText{"2016-02-29T00:00:00Z", 1456704000.0},
+    DateText{"2015-02-29T00:00:00Z", refused},       // no such day
+    DateText{"2015-06-01T24:00:00Z", refused},       // no such hour
+    DateText{"2015-06-01T10:00:00", refused},        // no offset, no instant
+    DateText{"2015-06-01T12:00:00+0200", refused},   // an offset needs its colon
+    DateText{"2015-06-01T12:00:00+25:00", refused},  // and an hour that exists
+    DateText{"2015-06-01T10:00:00.5Z", refused},
+    DateText{"2015-6-1T10:00:00Z", refused},
+    DateText{" 2015-06-01T10:00:00Z", refused},
+    DateText{"2015-06-01T10:00:00Z\n", refused},
+    DateText{"2015-06-01 10:00:00Z", refused},
+    DateText{"\u0662015-06-01T10:00:00Z", refused},  // digits of another script
+    DateText{"", refused},
+};
+
+TEST(Obs, TakesDateTextsStrictly) {
+    for (const DateText& row : dateTexts) {
+        const auto date = Obs::dateFromISO8601DateTimeString(QString::fromUtf8(row.text));
+        EXPECT_EQ(date ? date->secondsSince1970() : refused, row.seconds) << row.text;
+    }
+}
+
+TEST(Obs, TakesDateObjectsAsTheyStand) {
+    const Instant instant = Instant::fromSecondsSince1970(tenOClock + 0.5);
+    EXPECT_EQ(Obs::dateFromObject(instant.toDateTime()), instant);
+    EXPECT_EQ(Obs::dateFromObject(QVariant::fromValue(instant)), instant);
+    EXPECT_EQ(Obs::dateFromObject(QDateTime()), std::nullopt);
+    EXPECT_EQ(Obs::dateFromObject(true), std::nullopt);
+    EXPECT_EQ(Obs::dateFromObject({}), std::nullopt);
+}
+
+}  // namespace
+}  // namespace zephyrix
