@@ -1,0 +1,142 @@
+#include "DateFormatter.h"
+
+#include <cmath>
+
+#include <unicode/simpletz.h>
+#include <unicode/smpdtfmt.h>
+
+#include "DatePattern.h"
+#include "FatalError.h"
+#include "UserLocale.h"
+
+namespace zephyrix {
+
+namespace {
+
+icu::UnicodeString toIcu(const QString& text) {
+    return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<int32_t>(text.size())};
+}
+
+std::int64_t offsetAt(const QTimeZone& zone, std::int64_t secondsSince1970) {
+    return zone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(secondsSince1970, Qt::UTC));
+}
+
+/// The instant at which the clocks of the zone show a local time, given as seconds since
+/// 1970-01-01 00:00:00 of that clock. The offset in force a day before decides in gaps and
+/// overlaps.
+std::int64_t fromLocalSeconds(const QTimeZone& zone, std::int64_t local) {
+    constexpr std::int64_t day = 86400;
+    const std::int64_t byOffsetBefore = local - offsetAt(zone, local - day);
+    if (local - offsetAt(zone, byOffsetBefore) == byOffsetBefore)
+        return byOffsetBefore;
+    const std::int64_t byOffsetAfter = local - offsetAt(zone, local + day);
+    if (local - offsetAt(zone, byOffsetAfter) == byOffsetAfter)
+        return byOffsetAfter;
+    return byOffsetBefore;
+}
+
+}  // namespace
+
+/// ICU's format for one pattern or pair of styles in one locale.
+class DateFormatter::Writer {
+  public:
+    Writer(const QString& pattern, const icu::Locale& locale) {
+        UErrorCode status = U_ZERO_ERROR;
+        format_ = std::make_unique<icu::SimpleDateFormat>(toIcu(pattern), locale, status);
+        if (U_FAILURE(status) != 0)
+            fatalError(QStringLiteral("no date format \"%1\": %2")
+                           .arg(pattern, QString::fromLatin1(u_errorName(status))));
+    }
+
+    Writer(icu::DateFormat::EStyle date, icu::DateFormat::EStyle time, const icu::Locale& locale)
+        : format_(icu::DateFormat::createDateTimeInstance(date, time, locale)) {
+        if (format_ == nullptr)
+            fatalError(QStringLiteral("no date format for \"%1\"")
+                           .arg(QString::fromLatin1(locale.getName())));
+    }
+
+    /// offset: seconds east of Greenwich.
+    QString text(double secondsSince1970, int offset) {
+        if (offset != offset_) {
+            format_->setTimeZone(icu::SimpleTimeZone(offset * 1000, u"Zephyrix/Offset"));
+            offset_ = offset;
+        }
+        text_.remove();
+        format_->format(secondsSince1970 * 1000.0, text_);
+        return QString::fromUtf16(text_.getBuffer(), text_.length());
+    }
+
+  private:
+    std::unique_ptr<icu::DateFormat> format_;
+    std::optional<int> offset_;  // what the format has been given
+    icu::UnicodeString text_;    // kept for its memory
+};
+
+DateFormatter::DateFormatter() = default;
+DateFormatter::~DateFormatter() = default;
+DateFormatter::DateFormatter(DateFormatter&&) noexcept = default;
+DateFormatter& DateFormatter::operator=(DateFormatter&&) noexcept = default;
+
+void DateFormatter::setDateFormat(const QString& pattern) {
+    pattern_ = pattern;
+    writer_.reset();
+}
+
+void DateFormatter::setDateStyle(Style style) {
+    dateStyle_ = style;
+    writer_.reset();
+}
+
+void DateFormatter::setTimeStyle(Style style) {
+    timeStyle_ = style;
+    writer_.reset();
+}
+
+void DateFormatter::setLocale(const QByteArray& name) {
+    locale_ = name;
+    writer_.reset();
+}
+
+void DateFormatter::setTimeZone(const std::optional<QTimeZone>& zone) {
+    zone_ = zone;
+}
+
+QTimeZone DateFormatter::zoneInForce() const {
+    return zone_ && zone_->isValid() ? *zone_ : QTimeZone::systemTimeZone();
+}
+
+std::unique_ptr<DateFormatter::Writer> DateFormatter::makeWriter() const {
+    icu::Locale locale((locale_.isEmpty() ? UserLocale::forDates() : locale_).constData());
+    UErrorCode status = U_ZERO_ERROR;
+    locale.setKeywordValue("calendar", "gregorian", status);
+    if (!pattern_.isEmpty())
+        return std::make_unique<Writer>(pattern_, locale);
+    const auto icuStyle = [](Style style) {
+        return style == Style::Short ? icu::DateFormat::kShort : icu::DateFormat::kNone;
+    };
+    return std::make_unique<Writer>(icuStyle(dateStyle_), icuStyle(timeStyle_), locale);
+}
+
+QString DateFormatter::stringFromDate(Instant date) const {
+    constexpr double farthest = 1e12;  // seconds, some 31,700 years
+    const bool hasForm =
+        !pattern_.isEmpty() || dateStyle_ != Style::None || timeStyle_ != Style::None;
+    const double seconds = date.secondsSince1970();
+    if (!hasForm || !(std::abs(seconds) <= farthest))
+        return {};
+    if (writer_ == nullptr)
+        writer_ = makeWriter();
+    const auto wholeSeconds = static_cast<std::int64_t>(std::floor(seconds));
+    return writer_->text(seconds, static_cast<int>(offsetAt(zoneInForce(), wholeSeconds)));
+}
+
+std::optional<Instant> DateFormatter::dateFromString(const QString& text) const {
+    const auto fields = parseDateFields(pattern_, text);
+    if (!fields)
+        return std::nullopt;
+    const std::int64_t local = fields->secondsOfTheClock();
+    return Instant::fromSecondsSince1970(static_cast<double>(
+        fields->offset ? local - *fields->offset : fromLocalSeconds(zoneInForce(), local)));
+}
+
+}  // namespace zephyrix
