@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+namespace zephyrix {
+
+/// Shows an image, fitted into the view with its proportions kept, in the view's middle; sharp at
+/// any device pixel ratio. It may be turned about the view's centre.
+class ImageView : public QWidget {
+    Q_OBJECT
+    /// An image of the bundle's catalogue ("WindLabelSquare.png"); read when it is first painted.
+    Q_PROPERTY(QString imageName READ imageName WRITE setImageName)
+    /// Paints the image's shape in the theme's text colour instead of its own colours.
+    Q_PROPERTY(bool tinted READ isTinted WRITE setTinted)
+
+  public:
+    explicit ImageView(QWidget* parent = nullptr);
+
+    [[nodiscard]] const QImage& image() const noexcept { return image_; }
+    /// A null image clears the view.
+    virtual void setImage(const QImage& image);
+
+    [[nodiscard]] const QString& imageName() const noexcept { return imageName_; }
+    void setImageName(const QString& name);
+    [[nodiscard]] bool isTinted() const noexcept { return tinted_; }
+    void setTinted(bool tinted);
+
+    [[nodiscard]] double rotation() const noexcept { return rotation_; }
+    /// Degrees, clockwise on the screen.
+    virtual void setRotation(double degrees);
+
+    [[nodiscard]] QSizeF boundsSize() const { return QSizeF(size()); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    [[nodiscard]] QImage fitted(const QSize& pixels) const;
+    [[nodiscard]] QImage turned(const QImage& source) const;
+
+    QImage image_;
+    QImage ready_;  // what was painted last, in device pixels; null after a change
+    QString imageName_;
+    double rotation_ = 0.0;
+    bool tinted_ = false;
+};
+
+}  // namespace zephyrix

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace zephyrix {
+
+/// Makes a table known to assistive programs as a list and its cells as list items that can be
+/// pressed. Once for the process; further calls do nothing.
+void installRowAccessibility();
+
+}  // namespace zephyrix

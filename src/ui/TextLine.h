@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QFont>
+#include <QString>
+
+class QPainter;
+
+namespace zephyrix {
+
+/// One line of text with tabular figures: every digit takes the same width, so that numbers below
+/// each other line up. Text of right-to-left scripts is set as the toolkit sets it.
+class TextLine {
+  public:
+    TextLine(QString text, const QFont& font);
+
+    [[nodiscard]] double width() const;  // points
+    /// `baseline` and `left` in points of the painter.
+    void draw(QPainter& painter, double left, double baseline) const;
+
+    /// The text itself when it fits, else its beginning and "…".
+    [[nodiscard]] static QString elided(const QString& text, const QFont& font, double width);
+
+  private:
+    template <class Visit>
+    void visitRuns(const Visit& visit) const;
+
+    QString text_;
+    QFont font_;
+};
+
+}  // namespace zephyrix

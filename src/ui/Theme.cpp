@@ -1,0 +1,140 @@
+#include "Theme.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QApplication>
+#include <QEvent>
+#include <QFontDatabase>
+#include <QPalette>
+#include <QWidget>
+
+namespace zephyrix {
+
+namespace {
+
+using Color = Theme::Color;
+using Scheme = Theme::Scheme;
+using TextStyle = Theme::TextStyle;
+
+struct ColorRow {
+    Color color;
+    QRgb light;
+    QRgb dark;
+};
+
+constexpr QRgb argb(unsigned alpha, unsigned red, unsigned green, unsigned blue) {
+    return (alpha << 24U) | (red << 16U) | (green << 8U) | blue;
+}
+
+constexpr std::array colorTable = {
+    ColorRow{Color::PrimaryText, argb(255, 16, 22, 34), argb(255, 255, 255, 255)},
+    ColorRow{Color::SecondaryText, argb(255, 74, 82, 98), argb(255, 190, 198, 212)},
+    ColorRow{Color::SurfaceTop, argb(232, 252, 253, 255), argb(214, 30, 38, 54)},
+    ColorRow{Color::SurfaceBottom, argb(226, 244, 246, 250), argb(222, 19, 24, 35)},
+    ColorRow{Color::SurfaceEdge, argb(150, 255, 255, 255), argb(26, 255, 255, 255)},
+    ColorRow{Color::Hairline, argb(36, 16, 22, 34), argb(34, 255, 255, 255)},
+    ColorRow{Color::FocusRing, argb(255, 26, 104, 214), argb(255, 128, 184, 255)},
+    ColorRow{Color::WindRing, argb(255, 16, 22, 34), argb(255, 255, 255, 255)},
+    ColorRow{Color::VibrancyShade, argb(30, 16, 22, 34), argb(0, 0, 0, 0)},
+    ColorRow{Color::HoverShade, argb(12, 16, 22, 34), argb(14, 255, 255, 255)},
+    ColorRow{Color::Shadow, argb(70, 10, 16, 30), argb(110, 0, 0, 0)},
+};
+
+struct TextStyleRow {
+    TextStyle style;
+    const char* name;
+    double size;  // points of the panel, at text scale 1
+    QFont::Weight weight;
+    Color color;
+};
+
+constexpr std::array textStyleTable = {
+    TextStyleRow{TextStyle::Title, "title", 15.0, QFont::DemiBold, Color::PrimaryText},
+    TextStyleRow{TextStyle::Time, "time", 12.0, QFont::Normal, Color::SecondaryText},
+    TextStyleRow{TextStyle::Strong, "strong", 34.0, QFont::Light, Color::PrimaryText},
+    TextStyleRow{TextStyle::Words, "words", 12.5, QFont::Normal, Color::PrimaryText},
+    TextStyleRow{TextStyle::Value, "value", 15.0, QFont::Medium, Color::PrimaryText},
+    TextStyleRow{TextStyle::Unit, "unit", 10.5, QFont::Normal, Color::SecondaryText},
+    TextStyleRow{TextStyle::WindSpeed, "windSpeed", 16.0, QFont::DemiBold, Color::PrimaryText},
+    TextStyleRow{TextStyle::Day, "day", 11.5, QFont::Medium, Color::SecondaryText},
+    TextStyleRow{TextStyle::High, "high", 13.0, QFont::DemiBold, Color::PrimaryText},
+    TextStyleRow{TextStyle::Low, "low", 13.0, QFont::Normal, Color::SecondaryText},
+    TextStyleRow{TextStyle::Button, "button", 12.5, QFont::Medium, Color::SecondaryText},
+    TextStyleRow{TextStyle::Message, "message", 14.0, QFont::Normal, Color::PrimaryText},
+};
+
+const TextStyleRow& rowOf(TextStyle style) {
+    return *std::ranges::find(textStyleTable, style, &TextStyleRow::style);
+}
+
+std::optional<Scheme>& givenScheme() {
+    static std::optional<Scheme> scheme;
+    return scheme;
+}
+
+// Inter reads best with Latin and Cyrillic at these sizes; without it the desktop's own font is
+// used.
+QString fontFamily() {
+    static const bool hasInter = QFontDatabase::hasFamily(QStringLiteral("Inter"));
+    return hasInter ? QStringLiteral("Inter") : QApplication::font().family();
+}
+
+}  // namespace
+
+Theme::Scheme Theme::scheme() {
+    if (givenScheme())
+        return *givenScheme();
+    const QColor window = QApplication::palette().color(QPalette::Window);
+    return window.lightness() < 128 ? Scheme::Dark : Scheme::Light;
+}
+
+void Theme::setScheme(std::optional<Scheme> scheme) {
+    givenScheme() = scheme;
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget* widget : widgets) {
+        QEvent change(QEvent::StyleChange);
+        QApplication::sendEvent(widget, &change);
+        widget->update();
+    }
+}
+
+QColor Theme::color(Color color) {
+    return Theme::color(color, scheme());
+}
+
+QColor Theme::color(Color color, Scheme scheme) {
+    const auto& row = *std::ranges::find(colorTable, color, &ColorRow::color);
+    return QColor::fromRgba(scheme == Scheme::Dark ? row.dark : row.light);
+}
+
+QFont Theme::font(TextStyle style) {
+    const TextStyleRow& row = rowOf(style);
+    QFont font(fontFamily());
+    font.setPixelSize(qRound(row.size * textScale()));
+    font.setWeight(row.weight);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+Theme::Color Theme::textColor(TextStyle style) {
+    return rowOf(style).color;
+}
+
+std::optional<Theme::TextStyle> Theme::textStyleNamed(const QString& name) {
+    for (const TextStyleRow& row : textStyleTable)
+        if (name == QLatin1String(row.name))
+            return row.style;
+    return std::nullopt;
+}
+
+double Theme::textScale() {
+    constexpr double leastUsual = 9.0;
+    constexpr double mostUsual = 11.0;
+    const double points = QApplication::font().pointSizeF();
+    if (points <= 0.0)
+        return 1.0;
+    return std::clamp(points / std::clamp(points, leastUsual, mostUsual), 0.9, 1.25);
+}
+
+}  // namespace zephyrix

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+namespace zephyrix {
+
+/// A plain view: a rectangle that is filled with its background colour and holds other views.
+class View : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit View(QWidget* parent = nullptr);
+
+    [[nodiscard]] const QColor& backgroundColor() const noexcept { return backgroundColor_; }
+    /// An invalid or fully transparent colour is "clear" and paints nothing.
+    virtual void setBackgroundColor(const QColor& color);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QColor backgroundColor_ = Qt::transparent;
+};
+
+}  // namespace zephyrix
