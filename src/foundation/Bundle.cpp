@@ -1,8 +1,11 @@
 #include "Bundle.h"
 
-#include <QCoreApplication>
+#include <algorithm>
+#include <array>
+
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace zephyrix {
 
@@ -10,6 +13,37 @@ namespace {
 
 QString existing(const QString& path) {
     return QFileInfo::exists(path) ? path : QString();
+}
+
+/// The folder of the running program's own file; needs no application object.
+QString programFolder() {
+    return QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).path();
+}
+
+constexpr std::array languages{"en", "de", "pl", "nl", "fr", "es", "sv", "it", "ru"};
+
+/// "de" for "de_AT.UTF-8" and "DE"; empty for a language without a string table. "C" and "POSIX"
+/// are English.
+QString languageOf(const QString& locale) {
+    static const QRegularExpression rest(QStringLiteral("[-_.@].*$"));
+    const QString name = QString(locale).remove(rest).toLower();
+    if (name == QLatin1String("c") || name == QLatin1String("posix"))
+        return QStringLiteral("en");
+    const bool known = std::any_of(languages.begin(), languages.end(), [&](const char* language) {
+        return name == QLatin1String(language);
+    });
+    return known ? name : QString();
+}
+
+/// What the environment asks for, best first.
+QStringList wantedLocales() {
+    QStringList locales = qEnvironmentVariable("LANGUAGE").split(QLatin1Char(':'));
+    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        const QString locale = qEnvironmentVariable(variable);
+        if (!locale.isEmpty())
+            return locales << locale;
+    }
+    return locales;
 }
 
 }  // namespace
@@ -20,9 +54,12 @@ Bundle& Bundle::main() {
 }
 
 QString Bundle::pathForResource(const QString& name) const {
-    const QString directory = dataDirectory_.isEmpty() ? QCoreApplication::applicationDirPath() +
-                                                             QStringLiteral("/../share/zephyrix")
-                                                       : dataDirectory_;
+    if (name.isEmpty() || name == QLatin1String(".") || name.contains(QLatin1String("..")) ||
+        name.contains(QLatin1Char('/')) || name.contains(QLatin1Char('\\')))
+        return {};
+    const QString directory = dataDirectory_.isEmpty()
+                                  ? programFolder() + QStringLiteral("/../share/zephyrix")
+                                  : dataDirectory_;
     return existing(directory + QLatin1Char('/') + name);
 }
 
@@ -44,11 +81,29 @@ std::optional<QByteArray> Bundle::layout(const QString& name) const {
 }
 
 QString Bundle::localizedString(const QString& key) const {
-    return key;
+    if (!stringTable_) {
+        stringTable_ = std::make_unique<QTranslator>();
+        // English needs no table: a table that is not there leaves the keys as they are.
+        static_cast<void>(
+            stringTable_->load(QStringLiteral(":/zephyrix/translations/Localizable_%1.qm")
+                                   .arg(preferredLocalizations().first())));
+    }
+    const QString text = stringTable_->translate("Localizable", key.toUtf8().constData());
+    return text.isEmpty() ? key : text;
+}
+
+void Bundle::forgetStringTable() {
+    stringTable_.reset();
 }
 
 QStringList Bundle::preferredLocalizations() const {
-    return {QStringLiteral("en")};
+    QStringList preferred;
+    for (const QString& locale : wantedLocales())
+        preferred << languageOf(locale);
+    preferred << QStringLiteral("en");
+    preferred.removeAll(QString());
+    preferred.removeDuplicates();
+    return preferred;
 }
 
 }  // namespace zephyrix

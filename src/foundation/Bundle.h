@@ -1,10 +1,12 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <QTranslator>
 
 namespace zephyrix {
 
@@ -15,8 +17,9 @@ class Bundle {
     static Bundle& main();
 
     /// The path of a data file or folder of this full name ("meteoDB.sqlite", "symbols_1.bundle")
-    /// in the program's data folder; empty when there is none. The data folder is
-    /// "../share/zephyrix" as seen from the program.
+    /// in the program's data folder; empty when there is none, also for a name that leads out of
+    /// the folder. The data folder is "../share/zephyrix" as seen from the program's file, in the
+    /// build tree and where it is installed.
     [[nodiscard]] QString pathForResource(const QString& name) const;
     /// For tests: the data folder to use from now on.
     void setDataDirectory(const QString& directory);
@@ -28,15 +31,20 @@ class Bundle {
     /// The text of an interface description ("ObsCell" for ObsCell.ui); nothing when there is none.
     [[nodiscard]] std::optional<QByteArray> layout(const QString& name) const;
 
-    /// The text for a key in the user's language; the key itself where there is no translation.
+    /// The text for a key, which is the English text, in the user's language; the key itself where
+    /// there is no translation. The table is loaded at the first use.
     [[nodiscard]] QString localizedString(const QString& key) const;
+    /// After a change of the language: the next text comes from a table that is loaded anew.
+    void forgetStringTable();
 
     /// The languages of the string table that the user wants, best first: two-letter codes such as
-    /// "de". Never empty: English is the last resort.
+    /// "de". Never empty: English is the last resort. The environment decides: LANGUAGE (a list
+    /// "de_AT:nl"), then the first of LC_ALL, LC_MESSAGES and LANG that is not empty.
     [[nodiscard]] QStringList preferredLocalizations() const;
 
   private:
     QString dataDirectory_;
+    mutable std::unique_ptr<QTranslator> stringTable_;
 };
 
 }  // namespace zephyrix
