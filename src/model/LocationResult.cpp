@@ -5,6 +5,8 @@
 #include <QLatin1String>
 #include <QMetaType>
 
+#include "foundation/Angle.h"
+#include "foundation/Description.h"
 #include "foundation/NamedException.h"
 #include "foundation/TimeZone.h"
 
@@ -13,7 +15,6 @@ namespace zephyrix {
 namespace {
 
 constexpr double earthRadius = 6371.0;  // kilometres
-constexpr double pi = 3.141592653589793;
 
 namespace key {
 constexpr QLatin1String city("city");
@@ -81,17 +82,7 @@ double doubleOrZero(const std::optional<Number>& number) {
 /// Single precision is deliberate: stored coordinates are floats, and distances have always been
 /// those between floats.
 double radiansInSinglePrecision(double degrees) {
-    return static_cast<double>(static_cast<float>(degrees)) * pi / 180.0;
-}
-
-QString descriptionOf(const QVariantMap& dict) {
-    QString text = QStringLiteral("{\n");
-    for (auto entry = dict.cbegin(); entry != dict.cend(); ++entry) {
-        const auto number = Number::fromVariant(entry.value());
-        text += QStringLiteral("    %1 = %2;\n")
-                    .arg(entry.key(), number ? number->text() : entry.value().toString());
-    }
-    return text + QLatin1Char('}');
+    return deg2rad(static_cast<double>(static_cast<float>(degrees)));
 }
 
 }  // namespace
@@ -169,7 +160,7 @@ QString LocationResult::description() const {
     const QString base =
         QStringLiteral("<LocationResult: 0x%1>").arg(reinterpret_cast<quintptr>(this), 0, 16);
     return QStringLiteral("%1, %2").arg(base, checkValidity()
-                                                  ? descriptionOf(asDict())
+                                                  ? zephyrix::description(asDict())
                                                   : QStringLiteral("<invalid LocationResult>"));
 }
 

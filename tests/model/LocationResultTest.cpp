@@ -196,7 +196,7 @@ TEST(LocationResult, TimeZoneIsKeptOnceFound) {
 
 TEST(LocationResult, DescriptionShowsTheDictionaryOfAValidPlace) {
     LocationResult place = LocationResult::defaultSearchResult();
-    EXPECT_THAT(place.description().toStdString(), HasSubstr("latitude = 52.53;"));
+    EXPECT_THAT(place.description().toStdString(), HasSubstr("latitude = 52.53; "));
     place.setUid(std::nullopt);
     EXPECT_TRUE(place.description().endsWith(QStringLiteral(">, <invalid LocationResult>")));
     // Valid by its latitude alone, yet without dictionary form.
