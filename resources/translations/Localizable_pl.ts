@@ -1,0 +1,297 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>°C</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>°C</translation>
+    </message>
+    <message>
+        <source>°F</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>°F</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>Bft</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>Bft</translation>
+    </message>
+    <message>
+        <source>kn</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>kt</translation>
+    </message>
+    <message>
+        <source>km/h</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>km/h</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>mph</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>mph</translation>
+    </message>
+    <message>
+        <source>hPa</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>hPa</translation>
+    </message>
+    <message>
+        <source>inHg</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>inHg</translation>
+    </message>
+    <message>
+        <source>Torr</source>
+        <extracomment>Unit of pressure, short text and spoken text alike. One torr is one millimetre of mercury.</extracomment>
+        <translation>Torr</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <extracomment>Inches (precipitation). Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>in</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <extracomment>Metres (altitude). Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>ft</source>
+        <extracomment>Feet (altitude). Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>ft</translation>
+    </message>
+    <message>
+        <source>degrees Celsius</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>stopni Celsjusza</translation>
+    </message>
+    <message>
+        <source>degrees Fahrenheit</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>stopni Fahrenheita</translation>
+    </message>
+    <message>
+        <source>Kelvin</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>kelwinów</translation>
+    </message>
+    <message>
+        <source>Beaufort</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>stopni Beauforta</translation>
+    </message>
+    <message>
+        <source>knots</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>węzłów</translation>
+    </message>
+    <message>
+        <source>kilometres per hour</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>kilometrów na godzinę</translation>
+    </message>
+    <message>
+        <source>metres per second</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>metrów na sekundę</translation>
+    </message>
+    <message>
+        <source>miles per hour</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>mil na godzinę</translation>
+    </message>
+    <message>
+        <source>hectopascals</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>hektopaskali</translation>
+    </message>
+    <message>
+        <source>inches of mercury</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>cali słupa rtęci</translation>
+    </message>
+    <message>
+        <source>millimetres</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>milimetrów</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>cali</translation>
+    </message>
+    <message>
+        <source>metres</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>metrów</translation>
+    </message>
+    <message>
+        <source>feet</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>stóp</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>NNE</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>NNE</translation>
+    </message>
+    <message>
+        <source>NE</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>NE</translation>
+    </message>
+    <message>
+        <source>ENE</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>ENE</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>ESE</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>ESE</translation>
+    </message>
+    <message>
+        <source>SE</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>SE</translation>
+    </message>
+    <message>
+        <source>SSE</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>SSE</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>SSW</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>SSW</translation>
+    </message>
+    <message>
+        <source>SW</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>SW</translation>
+    </message>
+    <message>
+        <source>WSW</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>WSW</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>WNW</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>WNW</translation>
+    </message>
+    <message>
+        <source>NW</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>NW</translation>
+    </message>
+    <message>
+        <source>NNW</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>NNW</translation>
+    </message>
+    <message>
+        <source>Rot.</source>
+        <extracomment>Stands in the place of a wind direction: the wind is variable. Short.</extracomment>
+        <translation>zm.</translation>
+    </message>
+    <message>
+        <source>-</source>
+        <extracomment>Stands in the place of a wind direction: calm or unknown.</extracomment>
+        <translation>-</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <extracomment>A class of the UV index.</extracomment>
+        <translation>Niski</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <extracomment>A class of the UV index.</extracomment>
+        <translation>Umiarkowany</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <extracomment>A class of the UV index.</extracomment>
+        <translation>Wysoki</translation>
+    </message>
+    <message>
+        <source>Very high</source>
+        <extracomment>A class of the UV index.</extracomment>
+        <translation>Bardzo wysoki</translation>
+    </message>
+    <message>
+        <source>Extreme</source>
+        <extracomment>A class of the UV index.</extracomment>
+        <translation>Ekstremalny</translation>
+    </message>
+    <message>
+        <source>h</source>
+        <extracomment>Hour unit, written directly behind a number: &quot;12h&quot;.</extracomment>
+        <translation>h</translation>
+    </message>
+    <message>
+        <source>Gusts</source>
+        <extracomment>Caption of the speed of gusts. Little room.</extracomment>
+        <translation>Porywy</translation>
+    </message>
+    <message>
+        <source>Wind:%d degrees %@</source>
+        <extracomment>Spoken by screen readers. %d is the direction in degrees, %@ the speed with its unit. Keep this order.</extracomment>
+        <translation>Wiatr: %d stopni, %@</translation>
+    </message>
+    <message>
+        <source>Show more...</source>
+        <extracomment>Button below the rows.</extracomment>
+        <translation>Pokaż więcej...</translation>
+    </message>
+    <message>
+        <source>Show less...</source>
+        <extracomment>Button below the rows.</extracomment>
+        <translation>Pokaż mniej...</translation>
+    </message>
+    <message>
+        <source>Please open Zephyrix to activate the widget.</source>
+        <extracomment>Shown in place of the weather until a place has been chosen. Zephyrix is the name of the main application.</extracomment>
+        <translation>Otwórz Zephyrix, aby aktywować widżet.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,297 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>°C</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>°C</translation>
+    </message>
+    <message>
+        <source>°F</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>°F</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>К</translation>
+    </message>
+    <message>
+        <source>Bft</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>балл.</translation>
+    </message>
+    <message>
+        <source>kn</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>уз</translation>
+    </message>
+    <message>
+        <source>km/h</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>км/ч</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>м/с</translation>
+    </message>
+    <message>
+        <source>mph</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>миль/ч</translation>
+    </message>
+    <message>
+        <source>hPa</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>гПа</translation>
+    </message>
+    <message>
+        <source>inHg</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>дюйм рт. ст.</translation>
+    </message>
+    <message>
+        <source>Torr</source>
+        <extracomment>Unit of pressure, short text and spoken text alike. One torr is one millimetre of mercury.</extracomment>
+        <translation>мм рт. ст.</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>мм</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <extracomment>Inches (precipitation). Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>дюйм</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <extracomment>Metres (altitude). Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>м</translation>
+    </message>
+    <message>
+        <source>ft</source>
+        <extracomment>Feet (altitude). Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
+        <translation>фут</translation>
+    </message>
+    <message>
+        <source>degrees Celsius</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>градусов Цельсия</translation>
+    </message>
+    <message>
+        <source>degrees Fahrenheit</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>градусов Фаренгейта</translation>
+    </message>
+    <message>
+        <source>Kelvin</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>кельвинов</translation>
+    </message>
+    <message>
+        <source>Beaufort</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>баллов по шкале Бофорта</translation>
+    </message>
+    <message>
+        <source>knots</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>узлов</translation>
+    </message>
+    <message>
+        <source>kilometres per hour</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>километров в час</translation>
+    </message>
+    <message>
+        <source>metres per second</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>метров в секунду</translation>
+    </message>
+    <message>
+        <source>miles per hour</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>миль в час</translation>
+    </message>
+    <message>
+        <source>hectopascals</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>гектопаскалей</translation>
+    </message>
+    <message>
+        <source>inches of mercury</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>дюймов ртутного столба</translation>
+    </message>
+    <message>
+        <source>millimetres</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>миллиметров</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>дюймов</translation>
+    </message>
+    <message>
+        <source>metres</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>метров</translation>
+    </message>
+    <message>
+        <source>feet</source>
+        <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>футов</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>С</translation>
+    </message>
+    <message>
+        <source>NNE</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>ССВ</translation>
+    </message>
+    <message>
+        <source>NE</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>СВ</translation>
+    </message>
+    <message>
+        <source>ENE</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>ВСВ</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>В</translation>
+    </message>
+    <message>
+        <source>ESE</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>ВЮВ</translation>
+    </message>
+    <message>
+        <source>SE</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>ЮВ</translation>
+    </message>
+    <message>
+        <source>SSE</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>ЮЮВ</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>Ю</translation>
+    </message>
+    <message>
+        <source>SSW</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>ЮЮЗ</translation>
+    </message>
+    <message>
+        <source>SW</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>ЮЗ</translation>
+    </message>
+    <message>
+        <source>WSW</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>ЗЮЗ</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>З</translation>
+    </message>
+    <message>
+        <source>WNW</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>ЗСЗ</translation>
+    </message>
+    <message>
+        <source>NW</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>СЗ</translation>
+    </message>
+    <message>
+        <source>NNW</source>
+        <extracomment>Where the wind comes from, as forecasters abbreviate it.</extracomment>
+        <translation>ССЗ</translation>
+    </message>
+    <message>
+        <source>Rot.</source>
+        <extracomment>Stands in the place of a wind direction: the wind is variable. Short.</extracomment>
+        <translation>перем.</translation>
+    </message>
+    <message>
+        <source>-</source>
+        <extracomment>Stands in the place of a wind direction: calm or unknown.</extracomment>
+        <translation>-</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <extracomment>A class of the UV index.</extracomment>
+        <translation>Низкий</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <extracomment>A class of the UV index.</extracomment>
+        <translation>Умеренный</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <extracomment>A class of the UV index.</extracomment>
+        <translation>Высокий</translation>
+    </message>
+    <message>
+        <source>Very high</source>
+        <extracomment>A class of the UV index.</extracomment>
+        <translation>Очень высокий</translation>
+    </message>
+    <message>
+        <source>Extreme</source>
+        <extracomment>A class of the UV index.</extracomment>
+        <translation>Экстремальный</translation>
+    </message>
+    <message>
+        <source>h</source>
+        <extracomment>Hour unit, written directly behind a number: &quot;12h&quot;.</extracomment>
+        <translation>ч</translation>
+    </message>
+    <message>
+        <source>Gusts</source>
+        <extracomment>Caption of the speed of gusts. Little room.</extracomment>
+        <translation>Порывы</translation>
+    </message>
+    <message>
+        <source>Wind:%d degrees %@</source>
+        <extracomment>Spoken by screen readers. %d is the direction in degrees, %@ the speed with its unit. Keep this order.</extracomment>
+        <translation>Ветер: %d градусов, %@</translation>
+    </message>
+    <message>
+        <source>Show more...</source>
+        <extracomment>Button below the rows.</extracomment>
+        <translation>Показать больше...</translation>
+    </message>
+    <message>
+        <source>Show less...</source>
+        <extracomment>Button below the rows.</extracomment>
+        <translation>Показать меньше...</translation>
+    </message>
+    <message>
+        <source>Please open Zephyrix to activate the widget.</source>
+        <extracomment>Shown in place of the weather until a place has been chosen. Zephyrix is the name of the main application.</extracomment>
+        <translation>Откройте Zephyrix, чтобы активировать виджет.</translation>
+    </message>
+</context>
+</TS>
