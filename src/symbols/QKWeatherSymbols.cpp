@@ -1,0 +1,227 @@
+#include "QKWeatherSymbols.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include <QCache>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+
+#include "foundation/Bundle.h"
+#include "foundation/Log.h"
+#include "foundation/Number.h"
+#include "foundation/Screen.h"
+#include "foundation/UserDefaults.h"
+#include "symbols/ImageResize.h"
+#include "symbols/QKCompoundSymbol.h"
+#include "symbols/SymbolFiles.h"
+#include "symbols/SymbolKey.h"
+
+namespace zephyrix {
+
+namespace {
+
+constexpr std::int64_t kFirstCode = 1'000'000;
+constexpr std::int64_t kLastCode = 9'999'999;
+constexpr qsizetype kLayerMemory = 8 * 1024;  // kB
+
+struct LayerKey {
+    QString bundle;  // empty for the set inside the program
+    QString name;
+    QSize pixels;  // invalid for the image as it was drawn
+
+    friend bool operator==(const LayerKey&, const LayerKey&) = default;
+    friend std::size_t qHash(const LayerKey& key, std::size_t seed) {
+        return qHashMulti(seed, key.bundle, key.name, key.pixels.width(), key.pixels.height());
+    }
+};
+
+/// What the process keeps, each part made on first use.
+struct Kept {
+    QHash<QString, QImage> symbols;
+    QCache<LayerKey, QImage> layers{kLayerMemory};
+    std::optional<QString> bundle;
+    QString folder;  // empty until it is needed
+};
+
+Kept& kept() {
+    static Kept values;
+    return values;
+}
+
+/// The one writer. An application that ends waits for its files; later there would be no codec.
+SymbolFileWriter& fileWriter() {
+    static SymbolFileWriter writer;
+    static const bool waits = [] {
+        qAddPostRoutine([] { QKWeatherSymbols::waitForFiles(); });
+        return true;
+    }();
+    Q_UNUSED(waits)
+    return writer;
+}
+
+QString childFolderForThisUser(const QString& parent, const QString& name) {
+    QDir(parent).mkdir(name, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return parent + QLatin1Char('/') + name;
+}
+
+bool isPlainFileName(const QString& name) {
+    return !name.contains(QLatin1Char('/')) && !name.contains(QChar::Null) && !name.isEmpty();
+}
+
+/// The path of a key's file; empty for a key that would lead out of the folder.
+QString filePath(const QString& key) {
+    return isPlainFileName(key) ? QKWeatherSymbols::documentsDir() + QLatin1Char('/') + key
+                                : QString();
+}
+
+QImage catalogueImage(const QString& name) {
+    return readSymbolFile(Bundle::main().pathForImage(name));
+}
+
+QImage loadedImage(const std::optional<QString>& bundle, const QString& name) {
+    if (!bundle)
+        return catalogueImage(QStringLiteral("symbols_0/") + name);
+    const QImage image = isPlainFileName(name)
+                             ? readSymbolFile(QStringLiteral("%1/%2.png").arg(*bundle, name))
+                             : QImage();
+    return image.isNull() ? catalogueImage(name) : image;
+}
+
+/// The image under a key of the layers, made and kept when it is not there yet.
+template <typename Make>
+QImage keptLayer(const LayerKey& key, const Make& make) {
+    auto& layers = kept().layers;
+    if (const QImage* image = layers.object(key))
+        return *image;
+    const QImage image = make();
+    if (!image.isNull())
+        layers.insert(key, std::make_unique<QImage>(image).release(), image.sizeInBytes() / 1024);
+    return image;
+}
+
+QImage composedSymbol(const QString& name, const QSizeF& pixelSize) {
+    const std::int64_t code = integerValueOf(name);
+    if (code < kFirstCode || code > kLastCode)
+        return {};
+    return QKCompoundSymbol().symbolForCode(Number(static_cast<qlonglong>(code)), pixelSize);
+}
+
+std::error_code removeFolder(const QString& path) {
+    std::error_code error;
+    const auto removed = std::filesystem::remove_all(path.toStdString(), error);
+    if (!error && removed == 0)
+        return std::make_error_code(std::errc::no_such_file_or_directory);
+    return error;
+}
+
+}  // namespace
+
+QHash<QString, QImage>& QKWeatherSymbols::symbolCache() {
+    return kept().symbols;
+}
+
+std::optional<QString> QKWeatherSymbols::symbolBundle() {
+    auto& bundle = kept().bundle;
+    if (!bundle) {
+        const auto set = UserDefaults::standard().integer(QStringLiteral("symbolSet"));
+        const QString path =
+            Bundle::main().pathForResource(QStringLiteral("symbols_%1.bundle").arg(set));
+        if (!path.isEmpty())
+            bundle = path;
+    }
+    return bundle;
+}
+
+QString QKWeatherSymbols::documentsDir() {
+    auto& folder = kept().folder;
+    if (folder.isEmpty()) {
+        const QString caches =
+            QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+        QDir().mkpath(caches);
+        folder =
+            childFolderForThisUser(childFolderForThisUser(caches, QStringLiteral("zephyrix-panel")),
+                                   QStringLiteral("symbolCache"));
+    }
+    return folder;
+}
+
+QImage QKWeatherSymbols::imageForSymbolName(const QString& name) {
+    const auto bundle = symbolBundle();
+    return keptLayer({bundle.value_or(QString()), name, QSize()},
+                     [&] { return loadedImage(bundle, name); });
+}
+
+QImage QKWeatherSymbols::layerForSymbolName(const QString& name, const QSize& pixels) {
+    return keptLayer({symbolBundle().value_or(QString()), name, pixels}, [&] {
+        const QImage image = imageForSymbolName(name);
+        return image.isNull() ? image : scaledToPixels(image, pixels, InterpolationQuality::High);
+    });
+}
+
+QImage QKWeatherSymbols::imageForSymbolName(const QString& name, const QSizeF& size) {
+    const double scale = Screen::main().scale();
+    const QString key = symbolKey(name, size, static_cast<double>(static_cast<float>(scale)));
+    QImage image = imageFromCacheForKey(key);
+    if (!image.isNull())
+        return image;
+    const QSizeF pixelSize = size * scale;
+    image = composedSymbol(name, pixelSize);
+    if (image.isNull())
+        image = imageForSymbolName(name);
+    image = resizedImageWithContentMode(image, ContentMode::ScaleAspectFit, pixelSize,
+                                        InterpolationQuality::High);
+    addObjectToCache(image, key);
+    return image;
+}
+
+QImage QKWeatherSymbols::imageFromCacheForKey(const QString& key) {
+    const auto found = symbolCache().constFind(key);
+    if (found != symbolCache().constEnd())
+        return *found;
+    const QString path = filePath(key);
+    if (path.isEmpty())
+        return {};
+    QImage image = fileWriter().unwrittenImage(path);
+    if (image.isNull())
+        image = readSymbolFile(path);
+    if (!image.isNull())
+        symbolCache().insert(key, image);
+    return image;
+}
+
+void QKWeatherSymbols::addObjectToCache(const QImage& image, const QString& key) {
+    if (image.isNull())
+        return;
+    symbolCache().insert(key, image);
+    const QString path = filePath(key);
+    if (!path.isEmpty())
+        fileWriter().write(image, path);
+}
+
+void QKWeatherSymbols::clearCache() {
+    fileWriter().discard();
+    symbolCache().clear();
+    kept().layers.clear();
+    const QString folder = documentsDir();
+    if (const std::error_code error = removeFolder(folder))
+        logLine(QStringLiteral("{path = \"%1\"; error = \"%2\"}")
+                    .arg(folder, QString::fromStdString(error.message())));
+    kept().folder.clear();
+}
+
+void QKWeatherSymbols::waitForFiles() {
+    fileWriter().waitUntilDone();
+}
+
+void QKWeatherSymbols::startAfresh() {
+    waitForFiles();
+    kept().symbols.clear();
+    kept().layers.clear();
+    kept().bundle.reset();
+    kept().folder.clear();
+}
+
+}  // namespace zephyrix

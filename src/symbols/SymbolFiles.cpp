@@ -1,0 +1,115 @@
+#include "SymbolFiles.h"
+
+#include <algorithm>
+
+#include <QBuffer>
+#include <QByteArray>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QImageWriter>
+
+namespace zephyrix {
+
+namespace {
+
+constexpr int kLargestSide = 4096;  // pixels
+constexpr double kLargestScale = 16.0;
+// Of Qt's 0 (smallest file) to 100: a third of the default's time for a file a little larger.
+constexpr int kPngQuality = 80;
+
+QByteArray pngFormat() {
+    return QByteArrayLiteral("png");
+}
+
+/// The text of a PNG file that keeps the scale of its image.
+QString scaleTag() {
+    return QStringLiteral("Scale");
+}
+
+QByteArray encoded(const QImage& image) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, pngFormat());
+    writer.setQuality(kPngQuality);
+    writer.setText(scaleTag(), QString::number(image.devicePixelRatio()));
+    return writer.write(image) ? bytes : QByteArray();
+}
+
+/// Deliberately in place: a reader that finds half a file takes it for none.
+void writeFile(const QImage& image, const QString& path) {
+    const QByteArray bytes = encoded(image);
+    QFile file(path);
+    if (bytes.isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return;
+    if (file.write(bytes) != bytes.size())
+        file.remove();
+}
+
+}  // namespace
+
+QImage readSymbolFile(const QString& path) {
+    if (!QFileInfo(path).isFile())
+        return {};
+    QImageReader reader(path, pngFormat());
+    reader.setAutoDetectImageFormat(false);
+    const QSize size = reader.size();
+    if (size.isEmpty() || size.width() > kLargestSide || size.height() > kLargestSide)
+        return {};
+    QImage image = reader.read();
+    if (image.isNull())
+        return {};
+    image.convertTo(QImage::Format_ARGB32_Premultiplied);
+    const double scale = image.text(scaleTag()).toDouble();
+    if (scale > 0 && scale <= kLargestScale)
+        image.setDevicePixelRatio(scale);
+    return image;
+}
+
+SymbolFileWriter::~SymbolFileWriter() {
+    discard();
+}
+
+void SymbolFileWriter::write(const QImage& image, const QString& path) {
+    const std::scoped_lock lock(mutex_);
+    jobs_.push_back({image, path});
+    if (!thread_.joinable())
+        thread_ = std::jthread([this](const std::stop_token& stop) { run(stop); });
+    changed_.notify_all();
+}
+
+QImage SymbolFileWriter::unwrittenImage(const QString& path) {
+    const std::scoped_lock lock(mutex_);
+    const auto job = std::find_if(jobs_.rbegin(), jobs_.rend(),
+                                  [&](const Job& each) { return each.path == path; });
+    return job == jobs_.rend() ? QImage() : job->image;
+}
+
+void SymbolFileWriter::waitUntilDone() {
+    std::unique_lock lock(mutex_);
+    changed_.wait(lock, [this] { return jobs_.empty(); });
+}
+
+void SymbolFileWriter::discard() {
+    {
+        const std::scoped_lock lock(mutex_);
+        jobs_.erase(jobs_.begin() + (writing_ ? 1 : 0), jobs_.end());
+    }
+    waitUntilDone();
+}
+
+void SymbolFileWriter::run(const std::stop_token& stop) {
+    std::unique_lock lock(mutex_);
+    while (changed_.wait(lock, stop, [this] { return !jobs_.empty(); })) {
+        const Job& job = jobs_.front();  // stays where it is: others only add and remove behind it
+        writing_ = true;
+        lock.unlock();
+        writeFile(job.image, job.path);
+        lock.lock();
+        writing_ = false;
+        jobs_.pop_front();
+        changed_.notify_all();
+    }
+}
+
+}  // namespace zephyrix
