@@ -58,6 +58,15 @@ QImage::Format bitmapFormat(const QImage& image) {
     }
 }
 
+/// True when the transform only turns by quarters, mirrors and moves: filtering would blur.
+bool keepsPixelsWhole(const QTransform& transform) {
+    const auto isWhole = [](double factor) {
+        return factor == 0.0 || factor == 1.0 || factor == -1.0;
+    };
+    return transform.isAffine() && isWhole(transform.m11()) && isWhole(transform.m12()) &&
+           isWhole(transform.m21()) && isWhole(transform.m22());
+}
+
 /// Turns the painter's y axis at half a height, both ways.
 void turnUpsideDown(QPainter& painter, int height) {
     painter.translate(0, height);
@@ -94,10 +103,12 @@ QImage resizedImage(const QImage& image, const QSizeF& newSize, const QTransform
     QImage bitmap(pixels, bitmapFormat(image));
     bitmap.fill(Qt::transparent);
     QPainter painter(&bitmap);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, quality == InterpolationQuality::High);
     turnUpsideDown(painter, pixels.height());
     painter.setTransform(transform, true);
     turnUpsideDown(painter, scaled.height());
+    painter.setRenderHint(
+        QPainter::SmoothPixmapTransform,
+        quality == InterpolationQuality::High && !keepsPixelsWhole(painter.transform()));
     painter.drawImage(QPointF(0, 0), scaled);
     return bitmap;
 }
