@@ -2,6 +2,8 @@
 
 #include <initializer_list>
 
+#include <QList>
+
 namespace zephyrix {
 
 namespace {
@@ -11,19 +13,22 @@ QByteArray& replacement() {
     return name;
 }
 
+/// The part of a text before the first of a mark; all of it where there is none.
+QByteArray before(char mark, const QByteArray& text) {
+    return text.split(mark).first();
+}
+
 /// ICU's name for a name in POSIX form, "language_COUNTRY.encoding@modifier".
 QByteArray icuName(const QByteArray& posixName) {
-    const qsizetype at = posixName.indexOf('@');
-    const QByteArray modifier = at < 0 ? QByteArray() : posixName.mid(at + 1);
-    QByteArray name = posixName.left(at);
-    name.truncate(name.indexOf('.') < 0 ? name.size() : name.indexOf('.'));
+    QByteArray name = before('.', before('@', posixName));
     if (name.isEmpty() || name == "C" || name == "POSIX")
         return QByteArrayLiteral("en_US_POSIX");
-    const QByteArray script = modifier == "latin"      ? QByteArrayLiteral("_Latn")
-                              : modifier == "cyrillic" ? QByteArrayLiteral("_Cyrl")
-                                                       : QByteArray();
-    const qsizetype language = name.indexOf('_');
-    return name.insert(language < 0 ? name.size() : language, script);
+    const qsizetype languageEnd = before('_', name).size();
+    if (posixName.endsWith("@latin"))
+        name.insert(languageEnd, "_Latn");
+    else if (posixName.endsWith("@cyrillic"))
+        name.insert(languageEnd, "_Cyrl");
+    return name;
 }
 
 QByteArray nameForCategory(const char* category) {

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <initializer_list>
+#include <map>
+#include <utility>
+
+#include <QByteArray>
+
+namespace zephyrix::testing {
+
+/// Sets environment variables (an empty value removes one) and puts them back when it ends.
+class ScopedEnvironment {
+  public:
+    explicit ScopedEnvironment(
+        std::initializer_list<std::pair<const char*, const char*>> variables) {
+        for (const auto& [name, value] : variables) {
+            before_[name] = qgetenv(name);
+            set(name, value);
+        }
+    }
+    ~ScopedEnvironment() {
+        for (const auto& [name, value] : before_)
+            set(name, value);
+    }
+    ScopedEnvironment(const ScopedEnvironment&) = delete;
+    ScopedEnvironment& operator=(const ScopedEnvironment&) = delete;
+
+  private:
+    static void set(const QByteArray& name, const QByteArray& value) {
+        if (value.isEmpty())
+            qunsetenv(name.constData());
+        else
+            qputenv(name.constData(), value);
+    }
+
+    std::map<QByteArray, QByteArray> before_;
+};
+
+}  // namespace zephyrix::testing
