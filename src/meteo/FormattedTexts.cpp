@@ -125,6 +125,7 @@ void MeteoMapping::dropNumberFormatters() {
 
 void MeteoMapping::finalizeStatements() {
     dropNumberFormatters();
+    dropTextLookup();
 }
 
 }  // namespace zephyrix

@@ -10,6 +10,7 @@
 #include "UnitTable.h"
 #include "foundation/Instant.h"
 #include "foundation/Number.h"
+#include "model/Location.h"
 
 namespace zephyrix {
 
@@ -171,14 +172,36 @@ class MeteoMapping {
     /// angles are not reduced.
     [[nodiscard]] static double radians(double degrees);
 
+    // ---- Weather in words ----
+
+    /// The sentence for a cloud cover `n` (eighths) and a present-weather code `ww`, by day or by
+    /// night, in a language named by its two small letters; every other language is English. An
+    /// absent number acts as 0. Nothing when the database has no such row, or cannot be read;
+    /// an empty text when the row has none.
+    [[nodiscard]] static std::optional<QString> stringForN(const std::optional<Number>& n,
+                                                           const std::optional<Number>& ww,
+                                                           const QString& language, bool daylight);
+    /// The same, by day or by night as it is at the place at a date. Throws NamedException
+    /// "NullPhenomenon" of SunCalculations on polar days and nights; the database is not asked
+    /// then.
+    [[nodiscard]] static std::optional<QString> stringForN(const std::optional<Number>& n,
+                                                           const std::optional<Number>& ww,
+                                                           const QString& language, Instant date,
+                                                           const Location& cityObject);
+    /// The text with its first character (UTF-16 unit) in upper case, whatever the user's language;
+    /// nothing for an empty text.
+    [[nodiscard]] static std::optional<QString> capitalizeFirst(const QString& text);
+
     // ---- Shared objects ----
 
-    /// Lets go of the shared number formatters, which are made anew, in the locale of then, at
-    /// their next use. For a host that wants to free resources.
+    /// Lets go of the prepared text lookup and of the shared number formatters. All are made anew
+    /// at their next use, the formatters in the locale of then. For a host that wants to free
+    /// resources.
     static void finalizeStatements();
 
   private:
     static void dropNumberFormatters();
+    static void dropTextLookup();
     [[nodiscard]] static double greatCircleDistance(double latitude1, double longitude1,
                                                     double latitude2, double longitude2);
 };

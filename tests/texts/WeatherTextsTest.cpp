@@ -1,0 +1,229 @@
+#include <array>
+#include <memory>
+
+#include <QDir>
+#include <QSet>
+#include <gtest/gtest.h>
+
+#include "foundation/Bundle.h"
+#include "foundation/NamedException.h"
+#include "meteo/MeteoDB.h"
+#include "meteo/MeteoMapping.h"
+#include "model/LocationResult.h"
+#include "support/TestHome.h"
+
+namespace zephyrix {
+namespace {
+
+constexpr int missing = -9999;
+const QStringList languages = QStringLiteral("de en pl nl fr es sv it ru").split(QLatin1Char(' '));
+
+std::optional<QString> text(int n, int ww, const QString& language, bool daylight = true) {
+    return MeteoMapping::stringForN(Number(n), Number(ww), language, daylight);
+}
+
+LocationResult placeAt(double latitude, double longitude, const QString& zone) {
+    LocationResult place;
+    place.setLatitude(Number(latitude));
+    place.setLongitude(Number(longitude));
+    place.setTimezone(zone);
+    return place;
+}
+
+TEST(WeatherTexts, EveryPairOfCodesHasASentenceInEverySet) {
+    qsizetype longest = 0;
+    for (const QString& language : languages) {
+        for (const bool daylight : {true, false}) {
+            for (int n = -1; n <= 9; ++n) {
+                for (int ww = -1; ww <= 99; ++ww) {
+                    const auto found =
+                        text(n < 0 ? missing : n, ww < 0 ? missing : ww, language, daylight);
+                    ASSERT_EQ(found.has_value(), n >= 0 || ww >= 0)
+                        << language.toStdString() << " n " << n << " ww " << ww;
+                    if (found) {
+                        ASSERT_FALSE(found->isEmpty());
+                        longest = qMax(longest, found->size());
+                    }
+                }
+            }
+        }
+    }
+    std::cout << "longest sentence: " << longest << " letters\n";
+    EXPECT_LE(longest, 40);
+}
+
+TEST(WeatherTexts, EachLanguageSpeaksForItselfByDayAndByNight) {
+    struct Case {
+        const char* language;
+        const char* byDay;
+        const char* byNight;
+    };
+    const std::array cases{
+        Case{"de", "sonnig", "klar"},
+        Case{"en", "sunny", "clear"},
+        Case{"pl", "słonecznie", "bezchmurnie"},
+        Case{"nl", "zonnig", "helder"},
+        Case{"fr", "ensoleillé", "ciel dégagé"},
+        Case{"es", "soleado", "despejado"},
+        Case{"sv", "soligt", "klart"},
+        Case{"it", "soleggiato", "sereno"},
+        Case{"ru", "солнечно", "ясно"},
+        Case{"EN", "sunny", "clear"},
+        Case{"DE", "sunny", "clear"},
+        Case{"en-GB", "sunny", "clear"},
+        Case{"de-AT", "sunny", "clear"},
+        Case{"xx", "sunny", "clear"},
+        Case{"", "sunny", "clear"},
+    };
+    for (const Case& each : cases) {  // in turn on the one statement
+        const QString language = QLatin1String(each.language);
+        EXPECT_EQ(text(0, missing, language, true), QString::fromUtf8(each.byDay)) << each.language;
+        EXPECT_EQ(text(0, missing, language, false), QString::fromUtf8(each.byNight));
+    }
+}
+
+TEST(WeatherTexts, TheHeavierCodeSpeaks) {
+    struct Case {
+        int n;
+        int ww;
+        const char* sentence;
+        const char* why;
+    };
+    const std::array cases{
+        Case{8, 61, "light rain", "falling rain beats any cloud"},
+        Case{8, 21, "overcast", "past rain does not beat a grey sky"},
+        Case{6, 21, "rain earlier", "but a lighter one"},
+        Case{0, 3, "sunny", "the development of clouds is no weather"},
+        Case{missing, 3, "clouds building up", "unless nothing else is known"},
+        Case{8, missing, "overcast", "cloud cover alone"},
+        Case{missing, 95, "thunderstorm", "weather alone"},
+        Case{9, 45, "fog", "a hidden sky yields to what hides it"},
+    };
+    for (const Case& each : cases)
+        EXPECT_EQ(text(each.n, each.ww, QStringLiteral("en")), QString::fromUtf8(each.sentence))
+            << each.why;
+    EXPECT_EQ(MeteoMapping::stringForN({}, {}, QStringLiteral("en"), true), QStringLiteral("sunny"))
+        << "an absent number counts as 0";
+}
+
+TEST(WeatherTexts, DayAndNightComeFromThePlaceAndItsZone) {
+    const auto place = placeAt(52.53, 13.38, QStringLiteral("Europe/Berlin"));
+    const auto noon = Instant::fromSecondsSince1970(1433152800);  // 2015-06-01 12:00 there
+    const auto spoken = [&](Instant date) {
+        return MeteoMapping::stringForN(Number(0), Number(0), QStringLiteral("en"), date, place);
+    };
+    EXPECT_EQ(spoken(noon), QStringLiteral("sunny"));
+    EXPECT_EQ(spoken(noon.addingSeconds(12 * 3600)), QStringLiteral("clear"));
+}
+
+TEST(WeatherTexts, AreFoundAgainAfterTheStatementWasFinalized) {
+    EXPECT_EQ(text(8, 0, QStringLiteral("it")), QStringLiteral("coperto"));
+    MeteoMapping::finalizeStatements();
+    MeteoMapping::finalizeStatements();
+    EXPECT_EQ(text(8, 0, QStringLiteral("it")), QStringLiteral("coperto"));
+}
+
+TEST(WeatherTexts, CapitalizeFirstUpperCasesOneLetter) {
+    EXPECT_EQ(MeteoMapping::capitalizeFirst(QStringLiteral("light rain")),
+              QStringLiteral("Light rain"));
+    EXPECT_EQ(MeteoMapping::capitalizeFirst(QStringLiteral("ясно")), QStringLiteral("Ясно"));
+    EXPECT_EQ(MeteoMapping::capitalizeFirst(QStringLiteral("é")), QStringLiteral("É"));
+    EXPECT_EQ(MeteoMapping::capitalizeFirst(QStringLiteral("i")), QStringLiteral("I"));
+    EXPECT_FALSE(MeteoMapping::capitalizeFirst(QString()).has_value());
+}
+
+/// A stand-in for the database, in memory, while it lives.
+class OtherDatabase {
+  public:
+    explicit OtherDatabase(const char* sql) {
+        MeteoMapping::finalizeStatements();
+        sqlite3_open(":memory:", &connection_);
+        EXPECT_EQ(sqlite3_exec(connection_, sql, nullptr, nullptr, nullptr), SQLITE_OK);
+        MeteoDB::sharedManager().setDbConnection(connection_);
+    }
+    ~OtherDatabase() {
+        MeteoMapping::finalizeStatements();
+        MeteoDB::sharedManager().setDbConnection(before_);
+        sqlite3_close(connection_);
+    }
+    OtherDatabase(const OtherDatabase&) = delete;
+    OtherDatabase& operator=(const OtherDatabase&) = delete;
+
+  private:
+    sqlite3* before_ = MeteoDB::sharedManager().dbConnection();
+    sqlite3* connection_ = nullptr;
+};
+
+constexpr const char* emptyTable = "CREATE TABLE t_list_mapping (id_map, n, ww, words, more);";
+
+TEST(WeatherTextsInAnotherDatabase, ANullTextIsEmptyAndNoRowIsNothing) {
+    const OtherDatabase database(
+        "CREATE TABLE t_list_mapping (id_map, n, ww, words, more);"
+        "INSERT INTO t_list_mapping VALUES (2987, 1, 2, NULL, 'further');");
+    const auto found = text(1, 2, QStringLiteral("ru"), false);
+    ASSERT_TRUE(found.has_value());
+    EXPECT_TRUE(found->isEmpty());
+    EXPECT_FALSE(text(1, 2, QStringLiteral("ru"), true).has_value());
+}
+
+TEST(WeatherTextsInAnotherDatabase, AMissingTableIsAskedAgainUntilItIsThere) {
+    const OtherDatabase database("");
+    EXPECT_FALSE(text(0, 0, QStringLiteral("en")).has_value());
+    sqlite3* const connection = MeteoDB::sharedManager().dbConnection();
+    sqlite3_exec(connection, emptyTable, nullptr, nullptr, nullptr);
+    sqlite3_exec(connection, "INSERT INTO t_list_mapping VALUES (2910, 0, 0, 'here', 1);", nullptr,
+                 nullptr, nullptr);
+    EXPECT_EQ(text(0, 0, QStringLiteral("en")), QStringLiteral("here"));
+}
+
+/// Looks a text up in a process of its own whose data folder was prepared; ends with 0 for no text.
+[[noreturn]] void lookUpIn(const QString& dataFolder) {
+    Bundle::main().setDataDirectory(dataFolder);
+    std::_Exit(text(0, 0, QStringLiteral("en")).has_value() ? 1 : 0);
+}
+
+TEST(MeteoDBDeathTest, WithoutAUsableFileNoTextIsFound) {
+    const QString nothing = testing::freshFolder();
+    EXPECT_EXIT(lookUpIn(nothing), ::testing::ExitedWithCode(0), "");
+
+    const QString folderInPlace = testing::freshFolder();
+    QDir(folderInPlace).mkdir(QStringLiteral("meteoDB.sqlite"));
+    EXPECT_EXIT(lookUpIn(folderInPlace), ::testing::ExitedWithCode(0), "failed to open sqlite db");
+
+    const QString noDatabase = testing::freshFolder();
+    QFile file(noDatabase + QStringLiteral("/meteoDB.sqlite"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(100000, 'x'));
+    file.close();
+    EXPECT_EXIT(lookUpIn(noDatabase), ::testing::ExitedWithCode(0), "");
+}
+
+TEST(MeteoDBDeathTest, IsNeverToBeDestroyed) {
+    EXPECT_DEATH(std::make_unique<MeteoDB>().reset(), "");
+}
+
+/// Asks for a text on a polar day with a database that cannot be opened; ends with 0 when the
+/// reason came out and the database was left alone (the log would tell of the failed opening).
+[[noreturn]] void lookUpOnAPolarDay(const QString& dataFolder) {
+    Bundle::main().setDataDirectory(dataFolder);
+    const auto place = placeAt(78.22, 15.65, QStringLiteral("Arctic/Longyearbyen"));
+    try {
+        (void)MeteoMapping::stringForN(Number(0), Number(0), QStringLiteral("en"),
+                                       Instant::fromSecondsSince1970(1433152800), place);
+    } catch (const NamedException& phenomenon) {
+        std::_Exit(phenomenon.name() == QLatin1String("NullPhenomenon") &&
+                           phenomenon.reason() == QLatin1String("sun")
+                       ? 0
+                       : 2);
+    }
+    std::_Exit(1);
+}
+
+TEST(MeteoDBDeathTest, APolarDayIsToldBeforeTheDatabaseIsTouched) {
+    const QString folder = testing::freshFolder();
+    QDir(folder).mkdir(QStringLiteral("meteoDB.sqlite"));
+    EXPECT_EXIT(lookUpOnAPolarDay(folder), ::testing::ExitedWithCode(0), "^$");
+}
+
+}  // namespace
+}  // namespace zephyrix
