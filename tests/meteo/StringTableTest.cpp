@@ -1,0 +1,158 @@
+#include <cmath>
+#include <complex>
+#include <map>
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTranslator>
+#include <QXmlStreamReader>
+#include <gtest/gtest.h>
+
+#include "meteo/MeteoMapping.h"
+
+namespace zephyrix {
+namespace {
+
+const QStringList languages{QStringLiteral("de"), QStringLiteral("en"), QStringLiteral("es"),
+                            QStringLiteral("fr"), QStringLiteral("it"), QStringLiteral("nl"),
+                            QStringLiteral("pl"), QStringLiteral("ru"), QStringLiteral("sv")};
+
+struct StringTable {
+    QString language;
+    QStringList keys;  // in the file's order
+    std::map<QString, QString> texts;
+    QStringList faults;
+};
+
+/// Reads a .ts file as a person sees it, without Qt's own compiler of translations.
+StringTable readTable(const QString& path) {
+    StringTable table;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        table.faults << file.errorString();
+    QXmlStreamReader xml(&file);
+    QString key;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == QLatin1String("TS"))
+            table.language = xml.attributes().value(QLatin1String("language")).toString();
+        else if (xml.name() == QLatin1String("name") &&
+                 xml.readElementText() != QLatin1String("Localizable"))
+            table.faults << QStringLiteral("another context");
+        else if (xml.name() == QLatin1String("comment"))
+            table.faults << QStringLiteral("a comment that is part of the key ") + key;
+        else if (xml.name() == QLatin1String("source"))
+            table.keys << (key = xml.readElementText());
+        else if (xml.name() == QLatin1String("translation")) {
+            if (xml.attributes().hasAttribute(QLatin1String("type")))
+                table.faults << QStringLiteral("unfinished: ") + key;
+            table.texts[key] = xml.readElementText();
+        }
+    }
+    if (xml.hasError())
+        table.faults << xml.errorString();
+    return table;
+}
+
+StringTable tableOf(const QString& language) {
+    return readTable(
+        QStringLiteral(SOURCE_DIR "/resources/translations/Localizable_%1.ts").arg(language));
+}
+
+QStringList matches(const QString& pattern, const QString& text) {
+    QStringList found;
+    auto match = QRegularExpression(pattern).globalMatch(text);
+    while (match.hasNext())
+        found << match.next().captured();
+    return found;
+}
+
+TEST(StringTable, EveryLanguageHasEveryKey) {
+    const QStringList keys = tableOf(QStringLiteral("en")).keys;
+    ASSERT_GE(keys.size(), 50);
+    QStringList found;
+    for (const QString& name : QDir(QStringLiteral(SOURCE_DIR "/resources/translations"))
+                                   .entryList({QStringLiteral("*.ts")})) {
+        const StringTable table =
+            readTable(QStringLiteral(SOURCE_DIR "/resources/translations/") + name);
+        found << table.language;
+        EXPECT_EQ(name, QStringLiteral("Localizable_%1.ts").arg(table.language));
+        EXPECT_EQ(table.keys, keys) << qPrintable(name);
+        EXPECT_EQ(table.faults, QStringList()) << qPrintable(name);
+        EXPECT_EQ(QStringList(table.keys).removeDuplicates(), 0) << qPrintable(name);
+    }
+    EXPECT_EQ(found, languages);
+}
+
+TEST(StringTable, EveryTextIsFitForUse) {
+    const QString placeholders = QStringLiteral("%[a-z@]");
+    // A word of two scripts is a slip of the keyboard that nobody sees.
+    const QRegularExpression mixedScripts(
+        QStringLiteral("\\p{Cyrillic}[A-Za-z]|[A-Za-z]\\p{Cyrillic}"));
+    for (const QString& language : languages) {
+        for (const auto& [key, text] : tableOf(language).texts) {
+            EXPECT_FALSE(text.trimmed().isEmpty()) << qPrintable(language + u' ' + key);
+            EXPECT_EQ(matches(placeholders, text), matches(placeholders, key)) << qPrintable(text);
+            EXPECT_FALSE(text.contains(mixedScripts)) << qPrintable(text);
+            if (language == QLatin1String("en")) {
+                EXPECT_EQ(text, key);
+            }
+        }
+    }
+}
+
+/// Where a name points, by its letters alone: "NNE" lies half-way from "N" to "NE".
+std::complex<double> vectorOf(const QString& name, const StringTable& table) {
+    const QStringList letters{
+        table.texts.at(QStringLiteral("N")), table.texts.at(QStringLiteral("E")),
+        table.texts.at(QStringLiteral("S")), table.texts.at(QStringLiteral("W"))};
+    const qsizetype quarter = letters.indexOf(name.left(1));
+    if (quarter < 0)
+        return {};
+    const std::complex<double> letter = std::polar(1.0, static_cast<double>(quarter) * M_PI_2);
+    if (name.size() == 1)
+        return letter;
+    const std::complex<double> sum = letter + vectorOf(name.mid(1), table);
+    return sum / std::abs(sum);
+}
+
+TEST(StringTable, SectorNamesPointWhereTheirSectorLies) {
+    for (const QString& language : languages) {
+        const StringTable table = tableOf(language);
+        for (int sector = 0; sector < 16; ++sector) {
+            const QString name = table.texts.at(MeteoMapping::windStringForSector(sector));
+            const auto expected = std::polar(1.0, sector * M_PI / 8.0);
+            EXPECT_LT(std::abs(vectorOf(name, table) - expected), 1e-9)
+                << qPrintable(language + u' ' + name);
+        }
+    }
+}
+
+TEST(StringTable, HasEveryKeyThatUnitsAndTextsAskFor) {
+    QStringList asked;
+    for (const QuantityUnits& quantity : allQuantities)
+        for (const Unit& unit : quantity.units)
+            asked << unit.text.toString() << unit.spoken.toString();
+    for (std::int64_t sector = -2; sector <= 16; ++sector)
+        asked << MeteoMapping::windStringForSector(sector);
+    for (int index = 0; index <= 15; ++index)
+        asked << MeteoMapping::stringForUVIndex(Number(index));
+    const QStringList keys = tableOf(QStringLiteral("en")).keys;
+    for (const QString& key : asked)
+        EXPECT_TRUE(keys.contains(key)) << qPrintable(key);
+}
+
+TEST(StringTable, IsInsideTheProgram) {
+    for (const QString& language : languages) {
+        QTranslator translator;
+        ASSERT_TRUE(translator.load(
+            QStringLiteral(":/zephyrix/translations/Localizable_%1.qm").arg(language)));
+        for (const auto& [key, text] : tableOf(language).texts)
+            EXPECT_EQ(translator.translate("Localizable", key.toUtf8().constData()), text);
+    }
+}
+
+}  // namespace
+}  // namespace zephyrix

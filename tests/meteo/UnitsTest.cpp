@@ -1,0 +1,166 @@
+#include <cmath>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "meteo/MeteoMapping.h"
+
+namespace zephyrix {
+namespace {
+
+constexpr double missing = MeteoMapping::missingValue;
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+struct UnitTextCase {
+    QString (*operation)(UnitCode);
+    UnitCode code;
+    const char* text;
+};
+
+TEST(Units, EveryCodeHasItsText) {
+    const UnitTextCase cases[] = {
+        {MeteoMapping::tempUnitForUnit, 0, "°C"},
+        {MeteoMapping::tempUnitForUnit, 1, "°F"},
+        {MeteoMapping::tempUnitForUnit, 2, "K"},
+        {MeteoMapping::tempUnitForUnit, 3, "°C"},
+        {MeteoMapping::tempUnitForUnit, -1, "°C"},
+        {MeteoMapping::accessibleTempUnitForUnit, 0, "degrees Celsius"},
+        {MeteoMapping::accessibleTempUnitForUnit, 1, "degrees Fahrenheit"},
+        {MeteoMapping::accessibleTempUnitForUnit, 2, "Kelvin"},
+        {MeteoMapping::accessibleTempUnitForUnit, 99, "degrees Celsius"},
+        {MeteoMapping::windUnitForUnit, 0, "Bft"},
+        {MeteoMapping::windUnitForUnit, 1, "kn"},
+        {MeteoMapping::windUnitForUnit, 2, "km/h"},
+        {MeteoMapping::windUnitForUnit, 3, "m/s"},
+        {MeteoMapping::windUnitForUnit, 4, "mph"},
+        {MeteoMapping::windUnitForUnit, 5, "kn"},
+        {MeteoMapping::windUnitForUnit, -1, "kn"},
+        {MeteoMapping::pressureUnitForUnit, 0, "hPa"},
+        {MeteoMapping::pressureUnitForUnit, 1, "inHg"},
+        {MeteoMapping::pressureUnitForUnit, 2, "Torr"},
+        {MeteoMapping::pressureUnitForUnit, 3, "hPa"},
+        {MeteoMapping::pressureUnitForUnit, std::numeric_limits<UnitCode>::min(), "hPa"},
+        {MeteoMapping::precipitationUnitForUnit, 0, "mm"},
+        {MeteoMapping::precipitationUnitForUnit, 1, "in"},
+        {MeteoMapping::precipitationUnitForUnit, 2, "mm"},
+        {MeteoMapping::altitudeUnitForUnit, -1, "m"},
+        {MeteoMapping::altitudeUnitForUnit, 1, "ft"},
+        {MeteoMapping::altitudeUnitForUnit, 2, "m"},
+    };
+    for (const UnitTextCase& c : cases)
+        EXPECT_EQ(c.operation(c.code), QString::fromUtf8(c.text)) << c.text << " for " << c.code;
+}
+
+TEST(Units, CodesAreThePlacesInTheTables) {
+    for (const QuantityUnits& quantity : allQuantities) {
+        UnitCode code = 0;
+        for (const Unit& unit : quantity.units) {
+            EXPECT_EQ(unit.code, code);
+            EXPECT_EQ(unitWithCode(quantity.units, code), &unit);
+            ++code;
+        }
+        EXPECT_EQ(unitWithCode(quantity.units, code), nullptr);
+        EXPECT_EQ(unitWithCode(quantity.units, -1), nullptr);
+    }
+}
+
+struct TemperatureCase {
+    double value;
+    UnitCode unitIn;
+    UnitCode unitOut;
+    double mapped;
+    const char* why;
+};
+
+TEST(Units, TemperaturesGoByCelsius) {
+    const TemperatureCase cases[] = {
+        {20.0, 0, 0, 20.0, "unchanged"},
+        {-40.0, 0, 1, -40.0, "where the scales meet"},
+        {212.0, 1, 0, 100.0, "boiling water"},
+        {20.0, 0, 2, -253.15, "the exchanged sign"},
+        {293.15, 2, 0, 566.3, "the exchanged sign back"},
+        {212.0, 1, 2, 100.0 - 273.15, "by Celsius"},
+        {0.0, 2, 1, 273.15 * 1.8 + 32.0, "by Celsius"},
+        {21.5, 7, -7, 21.5, "unknown codes convert nothing"},
+        {missing, 0, 1, missing, "missing"},
+        {missing, 2, 0, missing, "missing"},
+        {-9998.5, 0, 2, -9998.5 - 273.15, "only the very value is missing"},
+    };
+    for (const TemperatureCase& c : cases)
+        EXPECT_NEAR(MeteoMapping::mapTemperature(c.value, c.unitIn, c.unitOut), c.mapped, 1e-9)
+            << c.why;
+    for (const auto operation : {MeteoMapping::celsiusToFahrenheit, MeteoMapping::celsiusToKelvin,
+                                 MeteoMapping::fahrenheitToCelsius, MeteoMapping::kelvinToCelsius})
+        EXPECT_EQ(operation(missing), missing);
+}
+
+TEST(Units, LengthsAndPressuresAreThoseOfTheirDefinitions) {
+    EXPECT_NEAR(MeteoMapping::mmToInch(25.4), 1.0, 1e-11);
+    EXPECT_NEAR(MeteoMapping::metersToFeet(0.3048), 1.0, 1e-11);
+    EXPECT_NEAR(MeteoMapping::kmToMiles(42.195), 26.2188, 1e-4);
+    EXPECT_NEAR(MeteoMapping::hPaToTorr(1013.25), 760.0, 1e-9);
+    EXPECT_NEAR(MeteoMapping::hPaToInHg(1013.25), 29.921, 1e-3);
+    EXPECT_NEAR(MeteoMapping::hPaToInHg(missing), -295.27, 0.01) << "has no missing value";
+
+    EXPECT_EQ(MeteoMapping::mapHpaToUnit(1, 1000.0), MeteoMapping::hPaToInHg(1000.0));
+    EXPECT_EQ(MeteoMapping::mapHpaToUnit(2, 1000.0), MeteoMapping::hPaToTorr(1000.0));
+    EXPECT_EQ(MeteoMapping::mapHpaToUnit(3, 1000.0), 1000.0);
+    EXPECT_EQ(MeteoMapping::mapMMToUnit(1, 10.0), MeteoMapping::mmToInch(10.0));
+    EXPECT_EQ(MeteoMapping::mapMMToUnit(2, 10.0), 10.0);
+    EXPECT_EQ(MeteoMapping::mapMetersToUnit(1, 10.0), MeteoMapping::metersToFeet(10.0));
+    EXPECT_EQ(MeteoMapping::mapMetersToUnit(0, 10.0), 10.0);
+}
+
+TEST(Units, WindGoesThereAndBackByItsFactor) {
+    const struct {
+        UnitCode unit;
+        double ofTenKnots;
+    } cases[] = {{1, 10.0}, {2, 18.52}, {3, 5.2}, {4, 11.5077945}, {5, 10.0}, {-1, 10.0}};
+    for (const auto& c : cases) {
+        EXPECT_DOUBLE_EQ(MeteoMapping::mapKnotsToUnit(c.unit, 10.0), c.ofTenKnots) << c.unit;
+        EXPECT_DOUBLE_EQ(MeteoMapping::mapUnitToKnots(c.unit, c.ofTenKnots), 10.0) << c.unit;
+        EXPECT_EQ(MeteoMapping::mapKnotsToUnit(c.unit, missing), missing);
+        EXPECT_EQ(MeteoMapping::mapUnitToKnots(c.unit, missing), missing);
+    }
+}
+
+TEST(Units, BeaufortClassesEndAtTheirUpperLimit) {
+    const double upperKnots[] = {3, 6, 10, 15, 21, 27, 33, 40, 47, 55, 63};
+    double force = 1.0;
+    for (const double upper : upperKnots) {
+        const double above = std::nextafter(upper, 1e9);
+        EXPECT_EQ(MeteoMapping::mapKnotsToUnit(0, upper), force);
+        EXPECT_EQ(MeteoMapping::mapKnotsToUnit(0, above), force + 1.0);
+        EXPECT_EQ(MeteoMapping::mapUnitToKnots(0, force), upper);
+        EXPECT_EQ(MeteoMapping::mapUnitToKnots(0, std::nextafter(force, 0.0)), upper);
+        force += 1.0;
+    }
+}
+
+TEST(Units, BeaufortHasItsIrregularEnds) {
+    const struct {
+        double in;
+        double force;
+        double knots;
+    } cases[] = {
+        {-0.001, missing, missing},
+        {-0.0, 0, 3},
+        {0.5, 0, 3},
+        {0.999, 0, 3},
+        {1.0, 1, 3},
+        {11.0, 4, 63},
+        {11.001, 4, missing},
+        {12.0, 4, missing},
+        {12.001, 4, 63},
+        {1e300, 12, 63},
+        {missing, missing, missing},
+        {notANumber, missing, missing},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(MeteoMapping::mapKnotsToUnit(0, c.in), c.force) << c.in << " knots";
+        EXPECT_EQ(MeteoMapping::mapUnitToKnots(0, c.in), c.knots) << "force " << c.in;
+    }
+}
+
+}  // namespace
+}  // namespace zephyrix
