@@ -81,6 +81,16 @@ std::optional<QByteArray> Bundle::layout(const QString& name) const {
 }
 
 QString Bundle::localizedString(const QString& key) const {
+    const auto known = textsByKey_.constFind(key);
+    if (known != textsByKey_.cend())
+        return *known;
+    // The key may be a view of memory that is not ours.
+    const QString kept(key.constData(), key.size());
+    const QString text = stringTable().translate("Localizable", key.toUtf8().constData());
+    return *textsByKey_.insert(kept, text.isEmpty() ? kept : text);
+}
+
+const QTranslator& Bundle::stringTable() const {
     if (!stringTable_) {
         stringTable_ = std::make_unique<QTranslator>();
         // English needs no table: a table that is not there leaves the keys as they are.
@@ -88,12 +98,12 @@ QString Bundle::localizedString(const QString& key) const {
             stringTable_->load(QStringLiteral(":/zephyrix/translations/Localizable_%1.qm")
                                    .arg(preferredLocalizations().first())));
     }
-    const QString text = stringTable_->translate("Localizable", key.toUtf8().constData());
-    return text.isEmpty() ? key : text;
+    return *stringTable_;
 }
 
 void Bundle::forgetStringTable() {
     stringTable_.reset();
+    textsByKey_.clear();
 }
 
 QStringList Bundle::preferredLocalizations() const {

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
@@ -43,8 +44,11 @@ class Bundle {
     [[nodiscard]] QStringList preferredLocalizations() const;
 
   private:
+    [[nodiscard]] const QTranslator& stringTable() const;
+
     QString dataDirectory_;
     mutable std::unique_ptr<QTranslator> stringTable_;
+    mutable QHash<QString, QString> textsByKey_;  // what was looked up in it
 };
 
 }  // namespace zephyrix
