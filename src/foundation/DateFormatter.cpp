@@ -63,7 +63,7 @@ class DateFormatter::Writer {
         }
         text_.remove();
         format_->format(secondsSince1970 * 1000.0, text_);
-        return QString::fromUtf16(text_.getBuffer(), text_.length());
+        return QStringView(text_.getBuffer(), text_.length()).toString();
     }
 
   private:

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QStringBuilder>
 #include <unicode/dcfmtsym.h>
 #include <unicode/decimfmt.h>
 
@@ -15,12 +16,16 @@ namespace zephyrix {
 class NumberFormatter::Decimal {
   public:
     void setMinimumFractionDigits(int digits) {
+        if (digits == minimumFraction_)
+            return;
         minimumFraction_ = digits;
         maximumFraction_ = std::max(maximumFraction_, digits);
         apply();
     }
 
     void setMaximumFractionDigits(int digits) {
+        if (digits == maximumFraction_)
+            return;
         maximumFraction_ = digits;
         minimumFraction_ = std::min(minimumFraction_, digits);
         apply();
@@ -31,12 +36,13 @@ class NumberFormatter::Decimal {
         apply();
     }
 
-    QString text(double number) {
+    /// Valid until the next text.
+    QStringView text(double number) {
         if (format_ == nullptr)
             make();
         text_.remove();
         format_->format(number, text_);
-        return QString::fromUtf16(text_.getBuffer(), text_.length());
+        return {text_.getBuffer(), text_.length()};
     }
 
   private:
@@ -102,11 +108,9 @@ void NumberFormatter::setFormatWidth(int characters) {
 
 // Prefix and suffix stay outside of the format: changing them inside costs fifty times a number.
 QString NumberFormatter::stringFromNumber(double number) const {
-    QString text = decimal_->text(number);
-    if (!std::signbit(number)) {
-        text.prepend(positivePrefix_);
-        text.append(positiveSuffix_);
-    }
+    const QStringView digits = decimal_->text(number);
+    const QString text =
+        std::signbit(number) ? digits.toString() : positivePrefix_ % digits % positiveSuffix_;
     return text.size() < formatWidth_ ? text.rightJustified(formatWidth_, paddingCharacter_) : text;
 }
 
