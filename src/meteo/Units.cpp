@@ -7,6 +7,19 @@ namespace zephyrix {
 
 namespace {
 
+constexpr bool codesArePlaces() {
+    for (const QuantityUnits& quantity : allQuantities) {
+        UnitCode place = 0;
+        for (const Unit& unit : quantity.units) {
+            if (unit.code != place++)
+                return false;
+        }
+    }
+    return true;
+}
+
+static_assert(codesArePlaces(), "units are found by their code");
+
 /// As it stands, whatever the language.
 QString unlocalized(QStringView text) {
     return QString::fromRawData(text.data(), text.size());

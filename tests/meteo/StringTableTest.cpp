@@ -1,18 +1,22 @@
 #include <cmath>
 #include <complex>
+#include <cstdlib>
 #include <map>
 
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
-#include <QTranslator>
 #include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
+#include "foundation/Bundle.h"
 #include "meteo/MeteoMapping.h"
+#include "support/ScopedEnvironment.h"
 
 namespace zephyrix {
 namespace {
+
+using testing::ScopedEnvironment;
 
 const QStringList languages{QStringLiteral("de"), QStringLiteral("en"), QStringLiteral("es"),
                             QStringLiteral("fr"), QStringLiteral("it"), QStringLiteral("nl"),
@@ -144,14 +148,52 @@ TEST(StringTable, HasEveryKeyThatUnitsAndTextsAskFor) {
         EXPECT_TRUE(keys.contains(key)) << qPrintable(key);
 }
 
-TEST(StringTable, IsInsideTheProgram) {
-    for (const QString& language : languages) {
-        QTranslator translator;
-        ASSERT_TRUE(translator.load(
-            QStringLiteral(":/zephyrix/translations/Localizable_%1.qm").arg(language)));
-        for (const auto& [key, text] : tableOf(language).texts)
-            EXPECT_EQ(translator.translate("Localizable", key.toUtf8().constData()), text);
+/// While it lives, texts come in this language.
+class InLanguage {
+  public:
+    explicit InLanguage(const char* language) : environment_({{"LANGUAGE", language}}) {
+        Bundle::main().forgetStringTable();
     }
+    ~InLanguage() { Bundle::main().forgetStringTable(); }
+    InLanguage(const InLanguage&) = delete;
+    InLanguage& operator=(const InLanguage&) = delete;
+
+  private:
+    ScopedEnvironment environment_;
+};
+
+TEST(StringTable, IsInsideTheProgramForEachLanguage) {
+    for (const QString& language : languages) {
+        const InLanguage chosen(language.toUtf8().constData());
+        for (const auto& [key, text] : tableOf(language).texts)
+            EXPECT_EQ(Bundle::main().localizedString(key), text) << qPrintable(language);
+    }
+}
+
+TEST(StringTable, OnlyKnownUnitsAreTranslated) {
+    const InLanguage russian("ru_RU.UTF-8");
+    EXPECT_EQ(MeteoMapping::windUnitForUnit(1), QStringLiteral("уз"));
+    EXPECT_EQ(MeteoMapping::windUnitForUnit(5), QStringLiteral("kn"));
+    EXPECT_EQ(MeteoMapping::pressureUnitForUnit(0), QStringLiteral("гПа"));
+    EXPECT_EQ(MeteoMapping::pressureUnitForUnit(3), QStringLiteral("hPa"));
+    EXPECT_EQ(MeteoMapping::stringForUVIndex(Number(16)), QStringLiteral("-"));
+    EXPECT_EQ(MeteoMapping::formattedWindString(Number(10), 2), QStringLiteral("19 км/ч"));
+}
+
+/// In a process of its own, in which no name has been asked for.
+TEST(StringTableDeathTest, SectorNamesStayInTheirFirstLanguage) {
+    const auto eastBeforeAndAfter = [] {
+        QString names;
+        {
+            const InLanguage austrian("de_AT");
+            names = MeteoMapping::windStringForSector(4) + MeteoMapping::windStringForSector(-2);
+        }
+        MeteoMapping::finalizeStatements();
+        const InLanguage russian("ru");
+        names += MeteoMapping::windStringForSector(4) + MeteoMapping::windStringForSector(-2);
+        std::exit(names == QStringLiteral("Ouml.Oперем.") ? 0 : 1);
+    };
+    EXPECT_EXIT(eastBeforeAndAfter(), ::testing::ExitedWithCode(0), "");
 }
 
 }  // namespace
