@@ -67,6 +67,9 @@ void Bundle::setDataDirectory(const QString& directory) {
     dataDirectory_ = directory;
 }
 
+// Whatever is asked, a bundle is asked: that some of it lies inside the program is its own matter.
+// NOLINTBEGIN(readability-convert-member-functions-to-static)
+
 QString Bundle::pathForImage(const QString& name) const {
     const QString path = QStringLiteral(":/zephyrix/images/") + name;
     return path.endsWith(QLatin1String(".png")) ? existing(path)
@@ -79,6 +82,18 @@ std::optional<QByteArray> Bundle::layout(const QString& name) const {
         return std::nullopt;
     return file.readAll();
 }
+
+QStringList Bundle::preferredLocalizations() const {
+    QStringList preferred;
+    for (const QString& locale : wantedLocales())
+        preferred << languageOf(locale);
+    preferred << QStringLiteral("en");
+    preferred.removeAll(QString());
+    preferred.removeDuplicates();
+    return preferred;
+}
+
+// NOLINTEND(readability-convert-member-functions-to-static)
 
 QString Bundle::localizedString(const QString& key) const {
     const auto known = textsByKey_.constFind(key);
@@ -104,16 +119,6 @@ const QTranslator& Bundle::stringTable() const {
 void Bundle::forgetStringTable() {
     stringTable_.reset();
     textsByKey_.clear();
-}
-
-QStringList Bundle::preferredLocalizations() const {
-    QStringList preferred;
-    for (const QString& locale : wantedLocales())
-        preferred << languageOf(locale);
-    preferred << QStringLiteral("en");
-    preferred.removeAll(QString());
-    preferred.removeDuplicates();
-    return preferred;
 }
 
 }  // namespace zephyrix

@@ -30,7 +30,7 @@ class PropertyList {
   public:
     /// Containers within containers, the outermost dictionary included.
     static constexpr int mostDepth = 128;
-    static constexpr qsizetype mostBytes = 8 * 1024 * 1024;
+    static constexpr qsizetype mostBytes = 8LL * 1024 * 1024;
 
     /// Nothing, and a phrase in `problem`, for anything but a well-formed property list within the
     /// limits whose outermost value is a dictionary. Entity declarations are refused.

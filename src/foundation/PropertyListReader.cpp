@@ -102,7 +102,7 @@ class Reader {
             xml_.raiseError(QStringLiteral("no value"));
             return {};
         }
-        const QVariant value = this->value(1);
+        QVariant value = this->value(1);
         if (!xml_.hasError() && xml_.readNextStartElement())
             xml_.raiseError(QStringLiteral("more than one value"));
         return value;
@@ -130,7 +130,7 @@ class Reader {
         for (const Scalar& kind : scalars) {
             if (element != QLatin1String(kind.element))
                 continue;
-            const QVariant value = kind.parse(text.trimmed());
+            QVariant value = kind.parse(text.trimmed());
             if (!value.isValid() && !xml_.hasError())
                 xml_.raiseError(QStringLiteral("malformed <%1>").arg(element));
             return value;

@@ -39,7 +39,7 @@ QByteArray escaped(const QString& text) {
 
 QByteArray shortestText(double value) {
     std::array<char, 32> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+    auto* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
     return {buffer.data(), end - buffer.data()};
 }
 
