@@ -5,7 +5,8 @@ import sys
 from collections import namedtuple
 from pathlib import Path
 
-Image = namedtuple("Image", "image value kind strength name art")
+Image = namedtuple("Image", "image value kind strength name")
+Art = namedtuple("Art", "image parts")  # parts: (fragment, arrangement or "")
 Sky = namedtuple("Sky", "profile choices")  # choices: 11 pairs (cloud digit, body shown)
 PresentWeather = namedtuple("PresentWeather", "ww number sky name")
 
@@ -19,13 +20,13 @@ def stop(path, line, reason):
     sys.exit(f"{path}:{line}: {reason}")
 
 
-def rows(path, columns):
+def rows(path, columns=None):
     """The cells of each line that is neither empty nor a comment, with its line number."""
     for number, text in enumerate(Path(path).read_text(encoding="utf-8").splitlines(), start=1):
         if not text.strip() or text.startswith("#"):
             continue
         cells = text.split("\t")
-        if len(cells) != columns:
+        if columns and len(cells) != columns:
             stop(path, number, f"{len(cells)} columns instead of {columns}")
         yield number, cells
 
@@ -46,7 +47,7 @@ def read_scheme(folder):
     path = Path(folder) / "scheme.tsv"
     images = []
     for line, cells in rows(path, 6):
-        image = Image(cells[0], int(cells[1]), *cells[2:5], tuple(cells[5].split()))
+        image = Image(cells[0], int(cells[1]), *cells[2:5])
         if image.strength not in STRENGTHS:
             stop(path, line, f"unknown strength {image.strength}")
         if image.image in (known.image for known in images):
@@ -62,9 +63,26 @@ def layer(image):
     return re.sub(r"\d+$", "", image.image)
 
 
-def has_noshadow(image):
+def has_noshadow(name):
     """Whether a code can ask for the image without a cloud's shade: not where D4 is 9."""
-    return layer(image) == "prec" and image.value // 100 % 10 < 9
+    return re.fullmatch(r"prec.[0-8]..", name) is not None
+
+
+def read_art(path):
+    """What each image is made of: its name is in the first column, its parts in the last."""
+    return [Art(cells[0], [part.partition("@")[::2] for part in cells[-1].split()])
+            for _, cells in rows(path)]
+
+
+def read_arrangements(path):
+    """Name to places; a place is (x, y, scale, turn in degrees clockwise)."""
+    arrangements = {"": [(0.0, 0.0, 1.0, 0.0)]}
+    for line, (name, text) in rows(path, 2):
+        places = [tuple(map(float, place.split(","))) for place in text.split()]
+        if not all(2 <= len(place) <= 4 for place in places):
+            stop(path, line, "a place is x,y[,scale[,turn]]")
+        arrangements[name] = [place + (1.0, 0.0)[len(place) - 2:] for place in places]
+    return arrangements
 
 
 def read_sky(folder):
