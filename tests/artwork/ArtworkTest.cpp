@@ -1,0 +1,161 @@
+#include <array>
+#include <cstdio>
+#include <map>
+#include <string>
+#include <tuple>
+
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+#include "SymbolSet.h"
+#include "symbolscheme/SymbolScheme.h"
+
+using namespace zephyrix;
+using namespace zephyrix::testing;
+
+namespace {
+
+constexpr QRgb kDarkPanel = qRgb(22, 28, 40);
+constexpr QRgb kLightPanel = qRgb(250, 251, 253);
+
+QString precName(int number) {
+    return QString::asprintf("prec%04d", number);
+}
+
+// The names that a code asks for, read from its decimal digits one by one.
+QStringList namesAskedFor(std::uint32_t code) {
+    const QString digits = QString::number(code).rightJustified(7, QLatin1Char('0'));
+    const auto digit = [&](int n) { return digits.at(n - 1).digitValue(); };
+    QStringList names;
+    const int number = digits.mid(2, 4).toInt();
+    if (number >= 1000)
+        names.append((digit(2) == 9 && digit(4) < 9 ? QStringLiteral("noshadow_") : QString()) +
+                     precName(number));
+    if (digit(1) == 1)
+        names.append(QStringLiteral("sun"));
+    for (int phase = 1; digit(1) == 2 && phase <= 8; ++phase)
+        names.append(QStringLiteral("moon%1").arg(phase));
+    const int cloud = digit(2) + (digit(6) >= 2 && digit(6) <= 5 ? 3 : 0);
+    if (digit(2) != 0 && digit(2) != 9)
+        names.append(QStringLiteral("cloud%1").arg(cloud));
+    if (digit(7) != 0)
+        names.append(code == 9999992 ? QStringLiteral("storm")
+                                     : QStringLiteral("warn%1").arg(digit(7)));
+    return names;
+}
+
+bool isAmber(QRgb pixel) {
+    return qAlpha(pixel) == 255 && qRed(pixel) > 245 && qGreen(pixel) > 145 && qBlue(pixel) < 130;
+}
+
+// The most of an image that a reader can tell from the ground: pixels of at least this contrast.
+int visiblePixels(const QImage& image, QRgb ground, double least) {
+    return countPixels(image, [&](int, int, QRgb pixel) {
+        return contrast(over(pixel, ground), ground) >= least;
+    });
+}
+
+}  // namespace
+
+TEST(Artwork, EachSetHoldsTheSchemesImagesAndNothingElse) {
+    QStringList wanted = namesOfScheme();
+    wanted.sort();
+    EXPECT_EQ(wanted.removeDuplicates(), 0);
+    for (const SymbolSet& set : symbolSets()) {
+        QStringList found = set.names();
+        found.sort();
+        EXPECT_EQ(found.join(QLatin1Char(' ')).toStdString(),
+                  wanted.join(QLatin1Char(' ')).toStdString())
+            << set.folder.toStdString();
+    }
+}
+
+TEST(Artwork, EveryCodeOfTheTablesFindsItsImagesInEachSet) {
+    std::vector<std::uint32_t> codes;
+    for (const std::uint32_t code : everySymbolCode())
+        for (int warning = 0; warning <= 9; ++warning)
+            codes.push_back(withWarning(code, warning));
+    for (int warning = 0; warning <= 9; ++warning)
+        codes.push_back(warningCode(warning));
+    for (const SymbolSet& set : symbolSets()) {
+        const QStringList there = set.names();
+        for (const std::uint32_t code : codes)
+            for (const QString& name : namesAskedFor(code))
+                EXPECT_TRUE(there.contains(name)) << code << " asks for " << name.toStdString();
+    }
+    std::printf("%zu codes\n", codes.size());
+}
+
+TEST(Artwork, ImagesAreWholeSquareAndNotCutByTheirEdges) {
+    for (const SymbolSet& set : symbolSets())
+        for (const QString& name : set.names()) {
+            SCOPED_TRACE((set.folder + QLatin1Char('/') + name).toStdString());
+            const QImage image = set.image(name);
+            ASSERT_EQ(image.size(), QSize(kMasterSize, kMasterSize));
+            EXPECT_GT(inkOf(image), 250.0) << "too little to be seen";
+            const int atTheEdge = countPixels(image, [](int x, int y, QRgb pixel) {
+                const bool edge = x == 0 || y == 0 || x == kMasterSize - 1 || y == kMasterSize - 1;
+                return edge && qAlpha(pixel) > 8;
+            });
+            EXPECT_EQ(atTheEdge, 0);
+        }
+}
+
+TEST(Artwork, ImagesAreSeenOnDarkAndOnLightGround) {
+    constexpr std::array least{1.5, 7.0};  // contrast, per set
+    constexpr int kEnough = 120;           // pixels of the master, about a line once across it
+    for (std::size_t k = 0; k < symbolSets().size(); ++k)
+        for (const QString& name : symbolSets()[k].names())
+            for (const QRgb ground : {kDarkPanel, kLightPanel})
+                EXPECT_GE(visiblePixels(symbolSets()[k].image(name), ground, least[k]), kEnough)
+                    << "set " << k << ", " << name.toStdString() << " on "
+                    << (ground == kDarkPanel ? "dark" : "light");
+}
+
+TEST(Artwork, LightningIsDrawnWhereTheNumberMeansIt) {
+    for (const LayerImage& image : kPrecipitationImages) {
+        if (image.kind == "alert")
+            continue;  // an amber sign
+        const int special = image.value % 10;
+        const bool lightning = (special >= 2 && special <= 5) || image.value == 9991;
+        const int amber = countPixels(symbolSets()[0].image(precName(image.value)),
+                                      [](int, int, QRgb pixel) { return isAmber(pixel); });
+        EXPECT_EQ(amber > 300, lightning) << image.image << ": " << amber << " amber pixels";
+    }
+}
+
+TEST(Artwork, StrongerWeatherIsDrawnWithMore) {
+    constexpr std::array order{"light", "moderate", "heavy", "severe"};
+    for (const SymbolSet& set : symbolSets()) {
+        std::map<std::string_view, std::pair<std::size_t, double>> strongest;
+        for (const LayerImage& image : kPrecipitationImages) {
+            if (image.strength == "-")
+                continue;
+            const auto rank =
+                std::size_t(std::find(order.begin(), order.end(), image.strength) - order.begin());
+            ASSERT_LT(rank, order.size()) << image.image;
+            const double ink = inkOf(set.image(precName(image.value)));
+            auto& [lastRank, lastInk] = strongest[image.kind];
+            EXPECT_TRUE(rank <= lastRank || ink > lastInk)
+                << image.image << ": " << ink << " after " << lastInk;
+            std::tie(lastRank, lastInk) = std::pair(rank, ink);
+        }
+    }
+}
+
+TEST(Artwork, WithoutACloudOnlyItsShadeIsMissing) {
+    const SymbolSet& colour = symbolSets()[0];
+    for (const LayerImage& image : kPrecipitationImages) {
+        if (image.value / 100 % 10 == 9)
+            continue;
+        const QImage shaded = colour.image(precName(image.value));
+        const QImage bare = colour.image(QStringLiteral("noshadow_") + precName(image.value));
+        const int more = countPixels(bare, [&](int x, int y, QRgb pixel) {
+            return qAlpha(pixel) > qAlpha(shaded.pixel(x, y));
+        });
+        EXPECT_EQ(more, 0) << image.image;
+        const bool falls =
+            image.value < 7000 && image.kind != "drifting-snow" && image.kind != "ice-crystals";
+        EXPECT_EQ(inkOf(bare) < inkOf(shaded), falls) << image.image;
+    }
+}
