@@ -22,13 +22,15 @@ function(zephyrix_own_include_root folder result)
     set(${result} "${root}" PARENT_SCOPE)
 endfunction()
 
-# A program of the project: what a user starts, with the resources of resources/ inside.
+# A program of the project: what a user starts, with the resources of resources/ inside. It knows its
+# version as ZEPHYRIX_VERSION.
 #
 #   zephyrix_program(<name> SOURCES <files...> USES <libraries and rooms...>)
 function(zephyrix_program name)
     cmake_parse_arguments(PARSE_ARGV 1 program "" "" "SOURCES;USES")
     add_executable(${name} ${program_SOURCES})
     target_link_libraries(${name} PRIVATE ${program_USES} zephyrix_compiler)
+    target_compile_definitions(${name} PRIVATE ZEPHYRIX_VERSION="${PROJECT_VERSION}")
     install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endfunction()
 

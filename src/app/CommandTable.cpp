@@ -1,0 +1,9 @@
+#include "CommandTable.h"
+
+namespace zephyrix {
+
+std::span<const Command> commands() {
+    return {};
+}
+
+}  // namespace zephyrix
