@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 
 #include "CommandTable.h"
+#include "OpenAddress.h"
 
 namespace zephyrix {
 
@@ -14,7 +15,8 @@ constexpr QLatin1String program("zephyrix");
 
 void printHelp(QTextStream& out) {
     out << "Usage: zephyrix COMMAND [ARGUMENTS]\n\n"
-           "Sets what the weather panel shows: its place and its units.\n\nCommands:\n";
+           "Sets what the weather panel shows: its place and its units.\n\n"
+           "Commands:\n";
     for (const Command& command : commands())
         out << command.usage;
     out << "\nOptions:\n"
@@ -42,6 +44,8 @@ void run(const QStringList& arguments, QTextStream& out) {
         out << program << ' ' << QCoreApplication::applicationVersion() << '\n';
         return;
     }
+    if (isAddress(first) && arguments.size() == 1)
+        return openAddress(first, out);
     const Command& command = commandNamed(first);
     if (arguments.contains(QLatin1String("--help")))
         out << command.usage;

@@ -1,9 +1,15 @@
 #include "CommandTable.h"
 
+#include <array>
+
+#include "PlaceCommand.h"
+#include "UnitsCommand.h"
+
 namespace zephyrix {
 
 std::span<const Command> commands() {
-    return {};
+    static const std::array table = {placeCommand, unitsCommand};
+    return table;
 }
 
 }  // namespace zephyrix

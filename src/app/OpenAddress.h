@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+#include <QTextStream>
+
+namespace zephyrix {
+
+/// Whether an argument is an address that the desktop hands over, and no command.
+[[nodiscard]] bool isAddress(const QString& argument);
+
+/// Opens "zephyrix://widget", the address behind the panel's rows: shows the place and the units.
+/// Raises CommandError for any other address.
+void openAddress(const QString& address, QTextStream& out);
+
+}  // namespace zephyrix
