@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QByteArray>
+#include <QTimeZone>
+
+#include "Weather.h"
+
+namespace zephyrix {
+
+/// The JSON document that the panel reads, as docs/feed-format.md describes it. Times are written
+/// with the zone's offset; a value that is absent is written as -9999.
+[[nodiscard]] QByteArray feedDocument(const Weather& weather, const QTimeZone& zone);
+
+}  // namespace zephyrix

@@ -1,0 +1,227 @@
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <initializer_list>
+
+#include <gtest/gtest.h>
+
+#include "feed/DemonstrationAtmosphere.h"
+#include "feed/DemonstrationWeather.h"
+#include "foundation/TimeZone.h"
+
+namespace zephyrix {
+namespace {
+
+using State = DemonstrationAtmosphere::State;
+
+Place placeAt(double latitude, double longitude, const char* zone) {
+    return {1, latitude, longitude, timeZoneWithName(QString::fromLatin1(zone))};
+}
+
+const Place berlin = placeAt(52.53, 13.38, "Europe/Berlin");
+
+Instant at(const char* utc) {
+    return Instant::fromDateTime(QDateTime::fromString(QString::fromLatin1(utc), Qt::ISODate));
+}
+
+Weather weatherAt(const Place& place, Instant now, const char* scenario = "changing") {
+    return *DemonstrationWeather(*scenarioNamed(scenario)).weatherAt(place, now);
+}
+
+/// A year, hour by hour, with what a whole year can be judged by.
+class Year {
+  public:
+    explicit Year(double latitude) : latitude_(latitude) {
+        const DemonstrationAtmosphere atmosphere(placeAt(latitude, 0.0, "UTC"),
+                                                 scenarios().front());
+        for (int hour = 0; hour < 365 * 24; ++hour)
+            states_.push_back(
+                atmosphere.at(at("2026-01-01T00:00:00Z").addingSeconds(3600.0 * hour)));
+    }
+
+    [[nodiscard]] const std::vector<State>& states() const { return states_; }
+
+    /// Mean of a value over the hours for which the test holds.
+    template <typename Value, typename Test>
+    [[nodiscard]] double mean(Value value, Test test) const {
+        double sum = 0.0;
+        int count = 0;
+        for (std::size_t hour = 0; hour < states_.size(); ++hour)
+            if (test(static_cast<int>(hour), states_[hour])) {
+                sum += value(states_[hour]);
+                ++count;
+            }
+        EXPECT_GT(count, 0) << latitude_;
+        return sum / count;
+    }
+
+    template <typename Test>
+    [[nodiscard]] double share(Test test) const {
+        return mean([&](const State& state) { return test(state) ? 1.0 : 0.0; },
+                    [](int, const State&) { return true; });
+    }
+
+  private:
+    double latitude_;
+    std::vector<State> states_;
+};
+
+double temperature(const State& state) {
+    return state.temperature.value();
+}
+
+bool isWet(const State& state) {
+    return state.precipitation > Millimetres(0.0);
+}
+
+constexpr auto latitudes = {-90.0, -54.8, -33.9, 0.0, 21.3, 52.53, 69.65, 90.0};
+
+TEST(DemonstrationAtmosphere, EveryHourOfAYearIsPossible) {
+    for (const double latitude : latitudes) {
+        const Year year(latitude);
+        for (const State& state : year.states()) {
+            ASSERT_LE(state.dewPoint, state.temperature) << latitude;
+            ASSERT_GE(state.gusts, state.windSpeed) << latitude;
+            ASSERT_EQ(state.windSpeed == Knots(0), state.windDirection == Degrees(0)) << latitude;
+            ASSERT_TRUE(state.windDirection >= Degrees(0) && state.windDirection <= Degrees(360));
+            ASSERT_TRUE(state.temperature > Celsius(-60) && state.temperature < Celsius(48));
+            ASSERT_TRUE(state.pressure > Hectopascals(950) && state.pressure < Hectopascals(1065));
+            ASSERT_TRUE(state.cloudCover >= Eighths(0) && state.cloudCover <= Eighths(8));
+            ASSERT_TRUE(state.precipitation >= Millimetres(0) &&
+                        state.precipitation < Millimetres(40));
+            // What falls has a code of its own, and clouds to fall from; frost lets no rain fall.
+            ASSERT_EQ(isWet(state), state.presentWeather > 50) << state.presentWeather;
+            ASSERT_TRUE(!isWet(state) || state.cloudCover >= Eighths(5));
+            const bool snows = state.presentWeather >= 70 && state.presentWeather <= 75;
+            ASSERT_FALSE(snows && state.temperature > Celsius(2)) << state.temperature.value();
+            const bool rains = state.presentWeather >= 51 && state.presentWeather <= 65;
+            ASSERT_FALSE(rains && state.temperature < Celsius(0)) << state.temperature.value();
+        }
+    }
+}
+
+TEST(DemonstrationAtmosphere, AYearLooksLikeTheLatitude) {
+    const auto days = [](int from, int to) {
+        return [=](int hour, const State&) { return hour / 24 >= from && hour / 24 < to; };
+    };
+    for (const double latitude : latitudes) {
+        const Year year(latitude);
+        const double warmer = year.mean(temperature, days(185, 215)) -
+                              year.mean(temperature, days(5, 35));  // July against January
+        const double wet = year.share(isWet);
+        const double clear =
+            year.share([](const State& state) { return state.cloudCover <= Eighths(2); });
+        std::printf("%6.1f: July - January %6.1f K, wet %4.1f %%, clear %4.1f %%\n", latitude,
+                    warmer, 100.0 * wet, 100.0 * clear);
+        if (std::fabs(latitude) > 30.0) {
+            EXPECT_GT(latitude > 0.0 ? warmer : -warmer, 8.0) << latitude;
+        }
+        EXPECT_TRUE(wet > 0.03 && wet < 0.3) << latitude;
+        EXPECT_TRUE(clear > 0.1 && clear < 0.6) << latitude;
+    }
+}
+
+TEST(DemonstrationAtmosphere, NightsAreColderAndLowsAreWindy) {
+    const Year year(52.53);
+    const auto hourOfDay = [](int wanted) {
+        return [=](int hour, const State&) { return hour % 24 == wanted; };
+    };
+    EXPECT_GT(year.mean(temperature, hourOfDay(15)), year.mean(temperature, hourOfDay(4)) + 3.0);
+
+    const auto wind = [](const State& state) { return state.windSpeed.value(); };
+    const double inLows = year.mean(
+        wind, [](int, const State& state) { return state.pressure < Hectopascals(1005); });
+    const double inHighs = year.mean(
+        wind, [](int, const State& state) { return state.pressure > Hectopascals(1023); });
+    std::printf("wind in lows %.1f kn, in highs %.1f kn\n", inLows, inHighs);
+    EXPECT_GT(inLows, 1.3 * inHighs);
+}
+
+TEST(DemonstrationWeather, IsTheSameForAPlaceDuringAnHour) {
+    const Weather first = weatherAt(berlin, at("2026-06-01T12:00:00Z"));
+    const Weather last = weatherAt(berlin, at("2026-06-01T12:59:59.999Z"));
+    EXPECT_EQ(first.observation->time, last.observation->time);
+    EXPECT_EQ(first.observation->temperature, last.observation->temperature);
+    EXPECT_EQ(first.days->back().highest, last.days->back().highest);
+    EXPECT_EQ(weatherAt(berlin, at("2026-06-01T13:00:00Z")).observation->time,
+              at("2026-06-01T13:00:00Z"));
+    // The default place has its coordinates in single precision; its weather is the same.
+    const Place single{1, 52.529998779296875, 13.380000114440918, berlin.zone};
+    EXPECT_EQ(weatherAt(single, at("2026-06-01T12:00:00Z")).observation->temperature,
+              first.observation->temperature);
+    // Pinned: another machine, compiler or year must not change it unnoticed.
+    EXPECT_DOUBLE_EQ(first.observation->temperature->value(), 16.4);
+    EXPECT_DOUBLE_EQ(first.observation->pressure->value(), 1037.8);
+}
+
+TEST(DemonstrationWeather, SixDaysBeginTodayOnThePlacesOwnCalendar) {
+    struct Case {
+        const char* zone;
+        const char* utc;
+        QDate today;
+    };
+    for (const Case& c : {
+             Case{"Pacific/Kiritimati", "2026-01-01T09:59:59Z", {2026, 1, 1}},  // +14:00
+             Case{"Pacific/Kiritimati", "2026-01-01T10:00:00Z", {2026, 1, 2}},
+             Case{"Pacific/Pago_Pago", "2026-01-01T10:59:59Z", {2025, 12, 31}},  // -11:00
+             Case{"Pacific/Chatham", "2026-01-31T10:15:00Z", {2026, 2, 1}},      // +13:45
+             Case{"Asia/Kathmandu", "2026-02-28T18:14:59Z", {2026, 2, 28}},      // +05:45
+             Case{"Europe/Berlin", "2026-03-28T23:30:00Z", {2026, 3, 29}},       // 23 hours long
+             Case{"Europe/Berlin", "2026-10-24T22:00:00Z", {2026, 10, 25}},      // 25 hours long
+             Case{"Australia/Lord_Howe", "2026-04-04T13:00:00Z", {2026, 4, 5}},  // 24.5 hours long
+             Case{"America/Santiago", "2026-09-06T04:30:00Z", {2026, 9, 6}},     // without 00:00
+         }) {
+        const Weather weather = weatherAt(placeAt(10.0, 20.0, c.zone), at(c.utc));
+        ASSERT_EQ(weather.days->size(), 6U);
+        for (int i = 0; i < 6; ++i)
+            EXPECT_EQ(weather.days->at(static_cast<std::size_t>(i)).date, c.today.addDays(i))
+                << c.zone << ' ' << c.utc;
+    }
+}
+
+TEST(DemonstrationWeather, ForecastAndObservationsAgree) {
+    for (const double latitude : latitudes)
+        for (const char* zone : {"Europe/Berlin", "Australia/Lord_Howe", "Asia/Kathmandu"}) {
+            const Place place = placeAt(latitude, 160.0, zone);
+            for (int day = 0; day < 365; day += 13) {
+                const Instant now = at("2026-01-01T05:20:00Z").addingSeconds(86400.0 * day);
+                const Weather weather = weatherAt(place, now);
+                for (const ForecastDay& forecast : *weather.days)
+                    ASSERT_LT(forecast.lowest, forecast.highest) << latitude;
+                const ForecastDay& today = weather.days->front();
+                for (int hour = 0; hour < 8; ++hour) {
+                    const Instant later = now.addingSeconds(3600.0 * hour);
+                    const Weather then = weatherAt(place, later);
+                    if (then.days->front().date != today.date)
+                        break;
+                    EXPECT_EQ(then.days->front().highest, today.highest) << latitude << zone;
+                    EXPECT_GE(then.observation->temperature, today.lowest) << latitude << zone;
+                    EXPECT_LE(then.observation->temperature, today.highest) << latitude << zone;
+                }
+            }
+        }
+}
+
+TEST(DemonstrationWeather, SunAndMoonFollowTheSkyOfThePlace) {
+    struct Case {
+        double latitude;
+        const char* utc;
+        int body;  // first digit of the symbol in the "fair" scenario: 1 sun, 2 moon
+    };
+    for (const Case& c :
+         {Case{52.53, "2026-06-01T12:00:00Z", 1}, Case{52.53, "2026-06-01T00:00:00Z", 2},
+          Case{78.2, "2026-06-21T00:00:00Z", 1},  // polar day
+          Case{78.2, "2026-12-21T12:00:00Z", 2},  // polar night
+          Case{-78.2, "2026-06-21T12:00:00Z", 2}, Case{90.0, "2026-06-21T00:00:00Z", 1}}) {
+        const Weather weather =
+            weatherAt(placeAt(c.latitude, 13.0, "Europe/Berlin"), at(c.utc), "fair");
+        EXPECT_EQ(*weather.observation->symbol / 1000000, c.body) << c.latitude << ' ' << c.utc;
+    }
+    const Place svalbard = placeAt(78.2, 15.6, "Arctic/Longyearbyen");
+    const Weather polarNight = weatherAt(svalbard, at("2026-12-21T12:00:00Z"), "fair");
+    for (const ForecastDay& day : *polarNight.days)
+        EXPECT_EQ(*day.symbol / 1000000, 2);
+}
+
+}  // namespace
+}  // namespace zephyrix

@@ -1,0 +1,135 @@
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <gtest/gtest.h>
+
+#include "feed/DemonstrationWeather.h"
+#include "feed/FeedDocument.h"
+#include "foundation/TimeZone.h"
+#include "model/Obs.h"
+
+namespace zephyrix {
+namespace {
+
+// A speed in another unit, or a bare number, cannot become knots by accident.
+static_assert(!std::is_convertible_v<double, Knots> && !std::is_constructible_v<Knots, Celsius>);
+
+QTimeZone zone(const char* name) {
+    return timeZoneWithName(QString::fromLatin1(name));
+}
+
+const Instant noon = Instant::fromSecondsSince1970(1433152800.0);  // 2015-06-01 10:00:00 UTC
+
+QJsonObject documentOf(const Weather& weather, const char* zoneName = "Europe/Berlin") {
+    return QJsonDocument::fromJson(feedDocument(weather, zone(zoneName))).object();
+}
+
+QJsonObject lastObsOf(const QJsonObject& document) {
+    return document.value(QStringLiteral("obs"))
+        .toObject()
+        .value(QStringLiteral("lastObs"))
+        .toObject();
+}
+
+QJsonArray daysOf(const QJsonObject& document) {
+    return document.value(QStringLiteral("forecast"))
+        .toObject()
+        .value(QStringLiteral("days"))
+        .toObject()
+        .value(QStringLiteral("day"))
+        .toArray();
+}
+
+TEST(FeedDocument, IsWrittenInTheFormOfTheFeed) {
+    const Weather weather{
+        .source = QStringLiteral("test"),
+        .observation = Observation{.time = noon,
+                                   .symbol = 1121100,
+                                   .temperature = Celsius(-0.04999),  // a tenth: no "-0"
+                                   .windSpeed = Knots(12),
+                                   .precipitation = Millimetres(0.1 + 0.2)},
+        .days = std::vector{ForecastDay{.date = {2015, 6, 1}, .symbol = 1000000},
+                            ForecastDay{.date = {2015, 6, 2}, .highest = Celsius(21.25)}}};
+    EXPECT_EQ(feedDocument(weather, zone("Europe/Berlin")).toStdString(),
+              R"({"forecast":{"days":{"day":[)"
+              R"({"date":"2015-06-01","symbol":1000000,"tn":-9999,"tx":-9999},)"
+              R"({"date":"2015-06-02","symbol":-9999,"tn":-9999,"tx":21.3}]}},)"
+              R"("obs":{"lastObs":{"datetime":"2015-06-01T12:00:00+02:00","dd":-9999,"ff":12,)"
+              R"("ffg":-9999,"n":-9999,"ppp":-9999,"rrr":0.3,"rrrh":-9999,"source":"test",)"
+              R"("symbol":1121100,"td":-9999,"tt":0,"ww":-9999}}})");
+}
+
+TEST(FeedDocument, TimesCarryTheOffsetOfThePlace) {
+    struct Case {
+        const char* zone;
+        const char* text;
+    };
+    for (const Case& c : {Case{"UTC", "2015-06-01T10:00:00+00:00"},
+                          Case{"Asia/Kathmandu", "2015-06-01T15:45:00+05:45"},
+                          Case{"America/St_Johns", "2015-06-01T07:30:00-02:30"},
+                          Case{"Pacific/Kiritimati", "2015-06-02T00:00:00+14:00"}}) {
+        const QJsonObject lastObs = lastObsOf(documentOf(
+            {.source = QStringLiteral("test"), .observation = Observation{.time = noon}}, c.zone));
+        EXPECT_EQ(lastObs.value(QStringLiteral("datetime")), QString::fromLatin1(c.text));
+        EXPECT_EQ(Obs(lastObs.toVariantMap()).date, noon) << c.zone;  // as the panel reads it
+    }
+}
+
+TEST(FeedDocument, EveryScenarioShowsWhatItIsNamedFor) {
+    struct Case {
+        const char* scenario;
+        int symbol;  // of the observation at noon; -9999 missing, 0 not there
+        double tt;   // about, where the scenario fixes it
+        qsizetype days;
+    };
+    constexpr double any = 99.0;
+    const Place place{1, 52.53, 13.38, zone("Europe/Berlin")};
+    std::size_t checked = 1;  // "changing" has no symbol of its own
+    for (const Case& c :
+         {Case{"fair", 1100000, any, 6}, Case{"clear-night", 2000000, any, 6},
+          Case{"rain", 520200, 9.0, 6}, Case{"thunderstorm", 1221230, 23.0, 6},
+          Case{"snow", 240200, -4.0, 6}, Case{"fog", 70300, 4.0, 6}, Case{"gale", 1593200, 8.0, 6},
+          Case{"polar-day", 1200000, 2.0, 6}, Case{"polar-night", 2100000, -24.0, 6},
+          Case{"missing", -9999, -9999.0, 6}, Case{"no-observation", 0, any, 6},
+          Case{"no-forecast", 0, any, 0}}) {
+        const Scenario* const scenario = scenarioNamed(c.scenario);
+        ASSERT_NE(scenario, nullptr) << c.scenario;
+        ++checked;
+        const QJsonObject document =
+            documentOf(*DemonstrationWeather(*scenario).weatherAt(place, noon));
+        EXPECT_EQ(daysOf(document).size(), c.days) << c.scenario;
+        EXPECT_EQ(document.contains(QStringLiteral("forecast")), c.days > 0) << c.scenario;
+        const bool observed = scenario->content != Scenario::Content::NoObservation;
+        EXPECT_EQ(document.contains(QStringLiteral("obs")), observed) << c.scenario;
+        const Obs obs(lastObsOf(document).toVariantMap());
+        EXPECT_EQ(obs.isValid(), observed) << c.scenario;
+        if (c.symbol != 0) {
+            EXPECT_EQ(obs.symbol->integerValue(), c.symbol) << c.scenario;
+        }
+        if (c.tt != any) {
+            EXPECT_NEAR(obs.tt->doubleValue(), c.tt, 6.0) << c.scenario;
+        }
+    }
+    EXPECT_EQ(checked, scenarios().size());
+    EXPECT_EQ(scenarioNamed("Rain"), nullptr);
+}
+
+TEST(FeedDocument, InTheMissingScenarioEveryNumberIsMissing) {
+    const QJsonObject document = documentOf(*DemonstrationWeather(*scenarioNamed("missing"))
+                                                 .weatherAt({1, 1.0, 2.0, zone("UTC")}, noon));
+    int numbers = 0;
+    const auto expectMissing = [&](const QJsonObject& object) {
+        for (const QJsonValue& value : object)
+            if (!value.isString()) {
+                EXPECT_EQ(value, QJsonValue(-9999));
+                ++numbers;
+            }
+    };
+    expectMissing(lastObsOf(document));
+    for (const QJsonValue& day : daysOf(document))
+        expectMissing(day.toObject());
+    EXPECT_EQ(numbers, 11 + 6 * 3);
+}
+
+}  // namespace
+}  // namespace zephyrix
