@@ -1,0 +1,127 @@
+#include "FeedServer.h"
+
+#include <charconv>
+#include <string>
+#include <sys/socket.h>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <httplib.h>
+
+#include "FeedDocument.h"
+#include "foundation/Clock.h"
+#include "foundation/Log.h"
+
+namespace zephyrix {
+
+namespace {
+
+using httplib::Request;
+using httplib::Response;
+
+constexpr const char* feedPath = "/zephyrix/WeatherFeed.php";
+constexpr const char* jsonType = "application/json";
+constexpr std::size_t mostRequestBytes = 64 * 1024;
+
+void refuse(Response& response, int status, const char* reason) {
+    const QJsonObject body{{QStringLiteral("error"), QString::fromUtf8(reason)}};
+    response.status = status;
+    response.set_content(QJsonDocument(body).toJson(QJsonDocument::Compact).toStdString(),
+                         jsonType);
+}
+
+/// A place id: decimal digits alone, 1 or more, within 64 bits.
+std::optional<std::int64_t> placeId(const std::string& text) {
+    std::int64_t id = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, id);
+    if (error != std::errc() || stop != end || id < 1)
+        return std::nullopt;
+    return id;
+}
+
+void logRequest(const Request& request, const Response& response) {
+    const std::size_t bytes = request.method == "HEAD" ? 0 : response.body.size();
+    // All at once: a path may well hold "%1".
+    logLine(QStringLiteral("%1 %2 %3 %4 %5")
+                .arg(Clock::now().toDateTime().toString(Qt::ISODate),
+                     QString::fromStdString(request.method), QString::fromStdString(request.target),
+                     QString::number(response.status), QString::number(bytes)));
+}
+
+/// Unlike the library's own choice, a port that another server has is not shared with it.
+void reuseOnlyFreedAddress(int socket) {
+    const int yes = 1;
+    ::setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
+}
+
+}  // namespace
+
+class FeedServer::Private {
+  public:
+    Private(const WeatherSource& source, const PlaceDirectory& places)
+        : source_(source), places_(places) {
+        server.set_socket_options(reuseOnlyFreedAddress);
+        // A connection is for one request: an idle one would hold a thread.
+        server.set_keep_alive_max_count(1);
+        server.set_payload_max_length(mostRequestBytes);
+        // Before the library's own routing, whose patterns recurse once a character of the path.
+        server.set_pre_routing_handler([this](const Request& request, Response& response) {
+            answer(request, response);
+            return httplib::Server::HandlerResponse::Handled;
+        });
+        server.set_error_handler([](const Request&, Response& response) {
+            if (response.body.empty())
+                refuse(response, response.status, "the request is not understood");
+        });
+        server.set_logger(logRequest);
+    }
+
+    httplib::Server server;
+
+  private:
+    void answer(const Request& request, Response& response) const {
+        if (request.method != "GET" && request.method != "HEAD") {
+            response.set_header("Allow", "GET, HEAD");
+            return refuse(response, 405, "only GET is answered");
+        }
+        if (request.path != feedPath)
+            return refuse(response, 404, "there is nothing here but /zephyrix/WeatherFeed.php");
+        const auto id = placeId(request.get_param_value("lid"));
+        if (!id)
+            return refuse(response, 400, "lid must be the id of a place, a whole number from 1");
+        const Place place = places_.placeOf(*id);
+        const auto weather = source_.weatherAt(place, Clock::now());
+        response.set_header("Cache-Control", "no-store");
+        if (!weather)
+            return refuse(response, 503, "the weather of this place is not known at present");
+        response.set_header("X-Zephyrix-Weather", weather->source.toStdString());
+        response.set_content(feedDocument(*weather, place.zone).toStdString(), jsonType);
+    }
+
+    const WeatherSource& source_;
+    const PlaceDirectory& places_;
+};
+
+FeedServer::FeedServer(const WeatherSource& source, const PlaceDirectory& places)
+    : d_(std::make_unique<Private>(source, places)) {}
+
+FeedServer::~FeedServer() = default;
+
+std::optional<int> FeedServer::listenOn(int port) {
+    constexpr const char* loopback = "127.0.0.1";
+    if (port != 0)
+        return d_->server.bind_to_port(loopback, port) ? std::optional(port) : std::nullopt;
+    const int chosen = d_->server.bind_to_any_port(loopback);
+    return chosen > 0 ? std::optional(chosen) : std::nullopt;
+}
+
+void FeedServer::serve() {
+    d_->server.listen_after_bind();
+}
+
+void FeedServer::stop() {
+    d_->server.stop();
+}
+
+}  // namespace zephyrix

@@ -1,0 +1,61 @@
+#include "PlaceDirectory.h"
+
+#include <cmath>
+#include <utility>
+
+#include "SmoothNoise.h"
+#include "foundation/TimeZone.h"
+#include "foundation/UserDefaults.h"
+#include "model/LocationResult.h"
+
+namespace zephyrix {
+
+namespace {
+
+/// Nothing for another id and for a record whose coordinates are of no use.
+std::optional<Place> placeFrom(const LocationResult& record, std::int64_t id) {
+    if (!record.checkValidity() || record.uid()->integerValue() != id || !record.latitude() ||
+        !record.longitude())
+        return std::nullopt;
+    const double latitude = record.latitude()->doubleValue();
+    const double longitude = record.longitude()->doubleValue();
+    if (!(std::fabs(latitude) <= 90.0 && std::fabs(longitude) <= 180.0))
+        return std::nullopt;
+    const QTimeZone zone = timeZoneWithName(record.timezone().value_or(QString()));
+    return Place{id, latitude, longitude, zone.isValid() ? zone : zoneOfLongitude(longitude)};
+}
+
+std::optional<Place> chosenPlace(std::int64_t id) {
+    // Opened anew each time, by the thread that asks: so it is up to date and nobody else's.
+    const auto shared = UserDefaults::suite(QStringLiteral("group.Zephyrix"));
+    const auto dictionary = shared ? shared->dictionary(QStringLiteral("location")) : std::nullopt;
+    return dictionary ? placeFrom(LocationResult(*dictionary), id) : std::nullopt;
+}
+
+Place inventedPlace(std::int64_t id) {
+    const auto seed = static_cast<std::uint64_t>(id);
+    const double latitude = -45.0 + 110.0 * fractionOf(mixed(seed, 1));  // 45 south to 65 north
+    const double longitude = -180.0 + 360.0 * fractionOf(mixed(seed, 2));
+    return {id, latitude, longitude, zoneOfLongitude(longitude)};
+}
+
+}  // namespace
+
+QTimeZone zoneOfLongitude(double degreesEast) {
+    return QTimeZone(static_cast<int>(std::lround(degreesEast / 15.0)) * 3600);
+}
+
+PlaceDirectory::PlaceDirectory(std::optional<Place> everyPlace)
+    : everyPlace_(std::move(everyPlace)) {}
+
+Place PlaceDirectory::placeOf(std::int64_t id) const {
+    if (everyPlace_)
+        return {id, everyPlace_->latitude, everyPlace_->longitude, everyPlace_->zone};
+    if (auto place = chosenPlace(id))
+        return *place;
+    if (auto place = placeFrom(LocationResult::defaultSearchResult(), id))
+        return *place;
+    return inventedPlace(id);
+}
+
+}  // namespace zephyrix

@@ -1,0 +1,214 @@
+// The real program, asked over a real connection.
+#include <csignal>
+
+#include <QElapsedTimer>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTcpSocket>
+#include <gtest/gtest.h>
+
+#include "foundation/UserDefaults.h"
+#include "model/LocationResult.h"
+#include "support/TestHome.h"
+
+namespace zephyrix {
+namespace {
+
+const QString program = QStringLiteral(PROGRAM_DIR "/zephyrix-feedd");
+
+/// A running feed server; ended with the object.
+class FeedProgram {
+  public:
+    explicit FeedProgram(const QStringList& arguments = {}) {
+        process.start(program, arguments);
+        process.waitForReadyRead();
+        const QString line = QString::fromUtf8(process.readLine());
+        const QRegularExpression form(QStringLiteral("^listening on http://127.0.0.1:(\\d+)/\n$"));
+        port = form.match(line).captured(1).toUShort();
+        EXPECT_NE(port, 0) << line.toStdString();
+    }
+    ~FeedProgram() {
+        process.kill();
+        process.waitForFinished();
+    }
+    FeedProgram(const FeedProgram&) = delete;
+    FeedProgram& operator=(const FeedProgram&) = delete;
+
+    /// The whole answer to a request line with no headers but the host.
+    [[nodiscard]] QByteArray answerTo(const QByteArray& methodAndPath) const {
+        QTcpSocket socket;
+        socket.connectToHost(QStringLiteral("127.0.0.1"), port);
+        socket.write(methodAndPath + " HTTP/1.1\r\nHost: localhost\r\n\r\n");
+        while (socket.state() != QTcpSocket::UnconnectedState && socket.waitForReadyRead(5000)) {
+        }
+        return socket.readAll();
+    }
+
+    [[nodiscard]] QJsonObject lastObsOf(const QByteArray& lid) const {
+        const QByteArray answer = answerTo("GET /zephyrix/WeatherFeed.php?lid=" + lid);
+        const QJsonObject document =
+            QJsonDocument::fromJson(answer.mid(answer.indexOf("\r\n\r\n") + 4)).object();
+        return document[QStringLiteral("obs")].toObject()[QStringLiteral("lastObs")].toObject();
+    }
+
+    [[nodiscard]] QString offsetOf(const QByteArray& lid) const {
+        return lastObsOf(lid)[QStringLiteral("datetime")].toString().right(6);
+    }
+
+    QProcess process;
+    quint16 port = 0;
+};
+
+struct Outcome {
+    int exitCode;
+    QByteArray err;
+};
+
+Outcome run(const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    EXPECT_TRUE(process.waitForFinished(5000)) << arguments.join(u' ').toStdString();
+    return {process.exitCode(), process.readAllStandardError()};
+}
+
+int statusOf(const QByteArray& answer) {
+    return answer.startsWith("HTTP/1.1 ") ? answer.mid(9, 3).toInt() : 0;
+}
+
+TEST(FeedProgram, AnswersThePanelsRequest) {
+    const FeedProgram feed;
+    const QByteArray answer =
+        feed.answerTo("GET /zephyrix/WeatherFeed.php?lid=18228265&json=1&widget=1");
+    EXPECT_EQ(statusOf(answer), 200);
+    for (const char* header :
+         {"\r\nContent-Type: application/json\r\n", "\r\nCache-Control: no-store\r\n",
+          "\r\nX-Zephyrix-Weather: demonstration\r\n"})
+        EXPECT_TRUE(answer.contains(header)) << header << " in " << answer.toStdString();
+    EXPECT_EQ(feed.lastObsOf("18228265")[QStringLiteral("source")],
+              QStringLiteral("demonstration"));
+}
+
+TEST(FeedProgram, TellsWhatIsWrongWithARequest) {
+    FeedProgram feed;
+    struct Case {
+        const char* request;
+        int status;
+    };
+    for (const Case& c :
+         {Case{"GET /zephyrix/WeatherFeed.php?lid=9223372036854775807", 200},
+          Case{"GET /zephyrix/WeatherFeed.php", 400},
+          Case{"GET /zephyrix/WeatherFeed.php?lid=", 400},
+          Case{"GET /zephyrix/WeatherFeed.php?lid=0", 400},
+          Case{"GET /zephyrix/WeatherFeed.php?lid=-1", 400},
+          Case{"GET /zephyrix/WeatherFeed.php?lid=12x", 400},
+          Case{"GET /zephyrix/WeatherFeed.php?lid=9223372036854775808", 400},
+          Case{"GET /zephyrix/weatherfeed.php?lid=1", 404}, Case{"GET /", 404},
+          Case{"GET /%1%0a%25", 404}, Case{"POST /zephyrix/WeatherFeed.php?lid=1", 405},
+          Case{"DELETE /zephyrix/WeatherFeed.php?lid=1", 405}, Case{"nonsense", 400}}) {
+        const QByteArray answer = feed.answerTo(c.request);
+        EXPECT_EQ(statusOf(answer), c.status) << c.request;
+        EXPECT_EQ(answer.contains("{\"error\":\""), c.status != 200) << c.request;
+    }
+    // A path as long as the server takes, and one that is longer.
+    EXPECT_EQ(statusOf(feed.answerTo("GET /" + QByteArray(8000, 'a'))), 404);
+    EXPECT_EQ(statusOf(feed.answerTo("GET /" + QByteArray(9000, 'a'))), 414);
+
+    feed.process.terminate();
+    EXPECT_TRUE(feed.process.waitForFinished(5000));
+    const QByteArray log = feed.process.readAllStandardError();
+    EXPECT_EQ(log.count('\n'), 15) << log.toStdString();
+    const QRegularExpression line(
+        QStringLiteral("^20\\d\\d-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\dZ GET /%1%0a%25 404 \\d+$"),
+        QRegularExpression::MultilineOption);
+    EXPECT_TRUE(line.match(QString::fromUtf8(log)).hasMatch()) << log.toStdString();
+}
+
+TEST(FeedProgram, KnowsThePlaceBehindAnId) {
+    qputenv("XDG_CONFIG_HOME", testing::freshFolder().toUtf8());
+    const FeedProgram feed;
+    const QJsonObject invented = feed.lastObsOf("77");
+    EXPECT_EQ(feed.offsetOf("77").right(3), QStringLiteral(":00"));
+    {
+        LocationResult place;
+        place.setUid(Number(77));
+        place.setName(QStringLiteral("Kathmandu"));
+        place.setLatitude(Number(27.7));
+        place.setLongitude(Number(85.3));
+        place.setTimezone(QStringLiteral("Asia/Kathmandu"));
+        UserDefaults::suite(QStringLiteral("group.Zephyrix"))
+            ->set(QStringLiteral("location"), place.asDict());
+    }
+    EXPECT_EQ(feed.offsetOf("77"), QStringLiteral("+05:45"));  // chosen while the server runs
+    EXPECT_EQ(feed.lastObsOf("78"), feed.lastObsOf("78"));
+    EXPECT_NE(feed.offsetOf("78"), QStringLiteral("+05:45"));
+
+    const FeedProgram fixed({QStringLiteral("--latitude=-43.95"), QStringLiteral("--longitude"),
+                             QStringLiteral("-176.55"), QStringLiteral("--zone"),
+                             QStringLiteral("Pacific/Marquesas")});
+    EXPECT_EQ(fixed.offsetOf("77"), QStringLiteral("-09:30"));
+}
+
+TEST(FeedProgram, IsOnThisMachineOnlyAndSharesItsPortWithNobody) {
+    const FeedProgram feed;
+    QTcpSocket other;
+    other.connectToHost(QStringLiteral("127.0.0.2"), feed.port);
+    EXPECT_FALSE(other.waitForConnected(1000));
+
+    const Outcome second = run({QStringLiteral("--port"), QString::number(feed.port)});
+    EXPECT_EQ(second.exitCode, 1);
+    EXPECT_TRUE(second.err.contains(QByteArray::number(feed.port))) << second.err.toStdString();
+}
+
+TEST(FeedProgram, EndsAtOnce) {
+    struct Case {
+        const char* how;
+        QStringList arguments;
+        std::function<void(QProcess&)> end;
+    };
+    const auto signal = [](int number) {
+        return [number](QProcess& process) {
+            ::kill(static_cast<pid_t>(process.processId()), number);
+        };
+    };
+    for (const Case& c :
+         {Case{"SIGTERM", {}, signal(SIGTERM)}, Case{"SIGINT", {}, signal(SIGINT)},
+          Case{"end of input", {QStringLiteral("--end-with-input")}, [](QProcess& process) {
+                   process.closeWriteChannel();
+               }}}) {
+        FeedProgram feed(c.arguments);
+        QTcpSocket halfAsked;  // must not hold it up
+        halfAsked.connectToHost(QStringLiteral("127.0.0.1"), feed.port);
+        halfAsked.write("GET /zephyrix/Wea");
+        EXPECT_TRUE(halfAsked.waitForBytesWritten(1000));
+        EXPECT_EQ(statusOf(feed.answerTo("GET /")), 404);
+        QElapsedTimer timer;
+        timer.start();
+        c.end(feed.process);
+        EXPECT_TRUE(feed.process.waitForFinished(5000)) << c.how;
+        EXPECT_EQ(feed.process.exitStatus(), QProcess::NormalExit) << c.how;
+        EXPECT_EQ(feed.process.exitCode(), 0) << c.how;
+        EXPECT_LT(timer.elapsed(), 3000) << c.how;  // a half request is given five seconds
+    }
+}
+
+TEST(FeedProgram, TellsWhatIsWrongWithItsOptions) {
+    struct Case {
+        const char* line;
+        const char* told;
+    };
+    for (const Case& c :
+         {Case{"--port 65536", "65536"}, Case{"--port -1", "-1"}, Case{"--port http", "http"},
+          Case{"--scenario sunny", "changing, fair, clear-night"},
+          Case{"--latitude 52", "--longitude"}, Case{"--latitude 91 --longitude 0", "91"},
+          Case{"--latitude 1 --longitude 2 --zone Europe/Atlantis", "Atlantis"},
+          Case{"--loud", "loud"}, Case{"rain", "rain"}}) {
+        const Outcome outcome = run(QString::fromUtf8(c.line).split(u' '));
+        EXPECT_EQ(outcome.exitCode, 2) << c.line;
+        EXPECT_TRUE(outcome.err.contains(c.told)) << c.line << ": " << outcome.err.toStdString();
+    }
+}
+
+}  // namespace
+}  // namespace zephyrix
