@@ -14,6 +14,9 @@
 
 namespace zephyrix {
 
+class Location;
+class QKTimeRange;
+
 /// A thing that stands at a place: its coordinate() has latitude and longitude in degrees.
 template <typename Thing>
 concept HasCoordinate = requires(const Thing& thing) {
@@ -191,6 +194,19 @@ class MeteoMapping {
     /// The text with its first character (UTF-16 unit) in upper case, whatever the user's language;
     /// nothing for an empty text.
     [[nodiscard]] static std::optional<QString> capitalizeFirst(const QString& text);
+
+    // ---- Sun time ----
+
+    /// Seconds between sunrise and sunset inside of a range of at most a day; a missing end counts
+    /// as 1970. The place needs coordinates and zone. Throws NamedException
+    /// "IntervalTooLongException", with the range under "range", for more than 86400 seconds (a day
+    /// of 25 hours, too), and "NullPhenomenon" on days of polar day or night. Any thread.
+    [[nodiscard]] static double astronomicSuntimeForRange(const QKTimeRange& range,
+                                                          const Location& location);
+    /// An estimate of the seconds of sunshine: the above, less an eighth for each eighth of cloud
+    /// (n); all of it up to one eighth, nothing from seven on. Throws as above.
+    [[nodiscard]] static double sunTimeForRange(const QKTimeRange& range, double n,
+                                                const Location& location);
 
     // ---- Shared objects ----
 
