@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 
 #include "foundation/Bundle.h"
+#include "foundation/Description.h"
 #include "foundation/Log.h"
 #include "foundation/Number.h"
 #include "foundation/Screen.h"
@@ -42,6 +43,7 @@ struct LayerKey {
 struct Kept {
     QHash<QString, QImage> symbols;
     QCache<LayerKey, QImage> layers{kLayerMemory};
+    std::optional<std::int64_t> chosenSet;  // instead of the user's
     std::optional<QString> bundle;
     QString folder;  // empty until it is needed
 };
@@ -75,6 +77,10 @@ bool isPlainFileName(const QString& name) {
 QString filePath(const QString& key) {
     return isPlainFileName(key) ? QKWeatherSymbols::documentsDir() + QLatin1Char('/') + key
                                 : QString();
+}
+
+QString pathOfSet(std::int64_t set) {
+    return Bundle::main().pathForResource(QStringLiteral("symbols_%1.bundle").arg(set));
 }
 
 QImage catalogueImage(const QString& name) {
@@ -119,6 +125,14 @@ std::error_code removeFolder(const QString& path) {
 
 }  // namespace
 
+bool QKWeatherSymbols::chooseSet(std::int64_t set) {
+    if (set != 0 && pathOfSet(set).isEmpty())
+        return false;
+    kept().chosenSet = set;
+    kept().bundle.reset();
+    return true;
+}
+
 QHash<QString, QImage>& QKWeatherSymbols::symbolCache() {
     return kept().symbols;
 }
@@ -126,9 +140,10 @@ QHash<QString, QImage>& QKWeatherSymbols::symbolCache() {
 std::optional<QString> QKWeatherSymbols::symbolBundle() {
     auto& bundle = kept().bundle;
     if (!bundle) {
-        const auto set = UserDefaults::standard().integer(QStringLiteral("symbolSet"));
-        const QString path =
-            Bundle::main().pathForResource(QStringLiteral("symbols_%1.bundle").arg(set));
+        const auto& chosen = kept().chosenSet;
+        const auto set =
+            chosen ? *chosen : UserDefaults::standard().integer(QStringLiteral("symbolSet"));
+        const QString path = pathOfSet(set);
         if (!path.isEmpty())
             bundle = path;
     }
@@ -207,8 +222,9 @@ void QKWeatherSymbols::clearCache() {
     kept().layers.clear();
     const QString folder = documentsDir();
     if (const std::error_code error = removeFolder(folder))
-        logLine(QStringLiteral("{path = \"%1\"; error = \"%2\"}")
-                    .arg(folder, QString::fromStdString(error.message())));
+        logLine(description(
+            QVariantMap{{QStringLiteral("path"), folder},
+                        {QStringLiteral("error"), QString::fromStdString(error.message())}}));
     kept().folder.clear();
 }
 
@@ -221,6 +237,7 @@ void QKWeatherSymbols::startAfresh() {
     kept().symbols.clear();
     kept().layers.clear();
     kept().bundle.reset();
+    kept().chosenSet.reset();
     kept().folder.clear();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include <QHash>
@@ -27,6 +28,10 @@ class QKWeatherSymbols {
     /// The folder of the chosen symbol set. Once found it is kept: another choice then takes effect
     /// in the next process. While there is none, each call looks again.
     [[nodiscard]] static std::optional<QString> symbolBundle();
+
+    /// Takes a set in place of the user's for this process; for programs that draw what was not
+    /// shown yet, without the caches. False when there is no such set; set 0 always is there.
+    static bool chooseSet(std::int64_t set);
 
     /// The folder of the PNG files, "$XDG_CACHE_HOME/zephyrix-panel/symbolCache", made for this
     /// user alone when it does not exist.

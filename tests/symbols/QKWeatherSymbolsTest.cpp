@@ -81,6 +81,10 @@ TEST_F(WeatherSymbols, ABundleFallsBackToThePlainNameAndStaysForTheProcess) {
     EXPECT_EQ(colour("lamp"), QColor());
     defaults.remove(QStringLiteral("symbolSet"));
     EXPECT_EQ(QKWeatherSymbols::symbolBundle(), dataFolder() + QStringLiteral("/symbols_7.bundle"));
+    EXPECT_TRUE(QKWeatherSymbols::chooseSet(0));
+    EXPECT_EQ(QKWeatherSymbols::symbolBundle(), setFolder());
+    EXPECT_FALSE(QKWeatherSymbols::chooseSet(8));
+    EXPECT_EQ(QKWeatherSymbols::symbolBundle(), setFolder());
     QKWeatherSymbols::startAfresh();
     EXPECT_EQ(QKWeatherSymbols::symbolBundle(), setFolder());
 }
