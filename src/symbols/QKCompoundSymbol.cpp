@@ -3,6 +3,7 @@
 #include <array>
 #include <span>
 
+#include "astro/MoonCalculations.h"
 #include "symbols/QKWeatherSymbols.h"
 #include "symbols/SymbolDrawing.h"
 #include "symbols/SymbolKey.h"
@@ -135,7 +136,9 @@ void QKCompoundSymbol::setupCelestrialForSymbol(std::uint64_t code) {
     sun_ = celestrial_ && code < 2'000'000;
     moon_ = celestrial_ && !sun_;
     if (moon_)
-        moonphase_ = kMoonWithoutDate;
+        moonphase_ = date_ ? MoonCalculations::imageNumberForPhase(
+                                 MoonCalculations::currentMoonForDate(*date_))
+                           : kMoonWithoutDate;
 }
 
 void QKCompoundSymbol::prepareRectsForSymbolCode(std::uint64_t code) {

@@ -245,6 +245,31 @@ TEST_F(CompoundSymbol, ACachedPictureIsTheOneDrawnFirstWhateverTheLightning) {
     EXPECT_EQ(nameOf(symbols.symbolForCode(Number(100010), size)), QStringLiteral("cloud1"));
 }
 
+TEST_F(CompoundSymbol, ShowsTheMoonOfTheDate) {
+    // The principal phases of June and July 2015 as almanacs give them (UTC), and days between.
+    const struct {
+        const char* time;
+        int image;
+    } nights[] = {
+        {"2015-06-16T14:05:00Z", 1}, {"2015-06-20T12:00:00Z", 2}, {"2015-06-24T11:03:00Z", 3},
+        {"2015-06-28T12:00:00Z", 4}, {"2015-07-02T02:20:00Z", 5}, {"2015-07-05T12:00:00Z", 6},
+        {"2015-07-08T20:24:00Z", 7}, {"2015-07-12T12:00:00Z", 8},
+    };
+    symbols.setUseCache(true);
+    for (const auto& night : nights)
+        addFilled(QStringLiteral("moon%1").arg(night.image));
+    for (const auto& night : nights) {
+        const auto date = Instant::fromDateTime(
+            QDateTime::fromString(QString::fromLatin1(night.time), Qt::ISODate));
+        const QImage picture = symbols.symbolForCode(Number(2999999), QSizeF(8, 8), date);
+        EXPECT_EQ(nameOf(picture), QStringLiteral("moon%1").arg(night.image)) << night.time;
+        EXPECT_TRUE(QKWeatherSymbols::symbolCache().contains(
+            QStringLiteral("%1+0+2999999+8.00+8.00+1.00.png").arg(night.image)));
+    }
+    EXPECT_EQ(nameOf(symbols.symbolForCode(Number(2999999), QSizeF(8, 8))),
+              QStringLiteral("moon8"));
+}
+
 TEST_F(CompoundSymbol, FieldsAfterACode) {
     const QSizeF size(8, 8);
     (void)symbols.symbolForCode(Number(2000000), size);
