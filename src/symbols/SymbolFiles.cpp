@@ -71,11 +71,11 @@ SymbolFileWriter::~SymbolFileWriter() {
 }
 
 void SymbolFileWriter::write(const QImage& image, const QString& path) {
-    const std::scoped_lock lock(mutex_);
-    jobs_.push_back({image, path});
-    if (!thread_.joinable())
-        thread_ = std::jthread([this](const std::stop_token& stop) { run(stop); });
-    changed_.notify_all();
+    {
+        const std::scoped_lock lock(mutex_);
+        jobs_.push_back({image, path});
+    }
+    queue_.addOperation([this] { writeFirst(); });
 }
 
 QImage SymbolFileWriter::unwrittenImage(const QString& path) {
@@ -87,7 +87,7 @@ QImage SymbolFileWriter::unwrittenImage(const QString& path) {
 
 void SymbolFileWriter::waitUntilDone() {
     std::unique_lock lock(mutex_);
-    changed_.wait(lock, [this] { return jobs_.empty(); });
+    written_.wait(lock, [this] { return jobs_.empty(); });
 }
 
 void SymbolFileWriter::discard() {
@@ -98,18 +98,18 @@ void SymbolFileWriter::discard() {
     waitUntilDone();
 }
 
-void SymbolFileWriter::run(const std::stop_token& stop) {
+void SymbolFileWriter::writeFirst() {
     std::unique_lock lock(mutex_);
-    while (changed_.wait(lock, stop, [this] { return !jobs_.empty(); })) {
-        const Job& job = jobs_.front();  // stays where it is: others only add and remove behind it
-        writing_ = true;
-        lock.unlock();
-        writeFile(job.image, job.path);
-        lock.lock();
-        writing_ = false;
-        jobs_.pop_front();
-        changed_.notify_all();
-    }
+    if (jobs_.empty())
+        return;  // discarded meanwhile
+    writing_ = true;
+    const Job& job = jobs_.front();  // stays where it is: others only add and remove behind it
+    lock.unlock();
+    writeFile(job.image, job.path);
+    lock.lock();
+    writing_ = false;
+    jobs_.pop_front();
+    written_.notify_all();
 }
 
 }  // namespace zephyrix

@@ -3,10 +3,11 @@
 #include <condition_variable>
 #include <deque>
 #include <mutex>
-#include <thread>
 
 #include <QImage>
 #include <QString>
+
+#include "foundation/OperationQueue.h"
 
 namespace zephyrix {
 
@@ -40,13 +41,13 @@ class SymbolFileWriter {
         QString path;
     };
 
-    void run(const std::stop_token& stop);
+    void writeFirst();
 
     std::mutex mutex_;
-    std::condition_variable_any changed_;
+    std::condition_variable written_;
     std::deque<Job> jobs_;
     bool writing_ = false;  // the first of the jobs has begun
-    std::jthread thread_;   // last: it ends before what it uses
+    OperationQueue queue_;  // last: it ends before what it uses
 };
 
 }  // namespace zephyrix
