@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include <QPaintDevice>
 #include <QPainter>
 
+#include "DeviceGrid.h"
 #include "Theme.h"
 
 namespace zephyrix {
@@ -17,10 +17,6 @@ double lineThickness(double scale) {
     return std::max(1.0, std::floor(scale / 1.5)) / scale;
 }
 
-double onDevicePixel(double position, double origin, double scale) {
-    return (std::round((position + origin) * scale) / scale) - origin;
-}
-
 }  // namespace
 
 Hairline::Hairline(QWidget* parent) : QWidget(parent) {
@@ -28,16 +24,14 @@ Hairline::Hairline(QWidget* parent) : QWidget(parent) {
 }
 
 void Hairline::paintHorizontal(QPainter& painter, double x, double y, double length) {
-    const double scale = painter.device()->devicePixelRatioF();
-    const double origin = painter.deviceTransform().dy() / scale;
-    painter.fillRect(QRectF(x, onDevicePixel(y, origin, scale), length, lineThickness(scale)),
+    const DeviceGrid grid(painter);
+    painter.fillRect(QRectF(grid.snapped({x, y}), QSizeF(length, lineThickness(grid.scale()))),
                      Theme::color(Theme::Color::Hairline));
 }
 
 void Hairline::paintVertical(QPainter& painter, double x, double y, double length) {
-    const double scale = painter.device()->devicePixelRatioF();
-    const double origin = painter.deviceTransform().dx() / scale;
-    painter.fillRect(QRectF(onDevicePixel(x, origin, scale), y, lineThickness(scale), length),
+    const DeviceGrid grid(painter);
+    painter.fillRect(QRectF(grid.snapped({x, y}), QSizeF(lineThickness(grid.scale()), length)),
                      Theme::color(Theme::Color::Hairline));
 }
 

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QPainter>
 
+#include "DeviceGrid.h"
 #include "Theme.h"
 #include "foundation/Bundle.h"
 
@@ -13,6 +14,7 @@ ImageView::ImageView(QWidget* parent) : QWidget(parent) {
 }
 
 void ImageView::setImage(const QImage& image) {
+    imageName_.clear();
     image_ = image;
     ready_ = QImage();
     update();
@@ -20,13 +22,30 @@ void ImageView::setImage(const QImage& image) {
 
 void ImageView::setImageName(const QString& name) {
     imageName_ = name;
-    setImage(QImage());
+    image_ = QImage();
+    forgetCatalogueImage();
 }
 
-void ImageView::setTinted(bool tinted) {
-    tinted_ = tinted;
+void ImageView::setFollowsScheme(bool follows) {
+    followsScheme_ = follows;
+    forgetCatalogueImage();
+}
+
+void ImageView::forgetCatalogueImage() {
+    if (!imageName_.isEmpty())
+        image_ = QImage();
     ready_ = QImage();
     update();
+}
+
+QString ImageView::catalogueName() const {
+    if (!followsScheme_)
+        return imageName_;
+    QString name = imageName_;
+    name.replace(QLatin1String(".png"), Theme::scheme() == Theme::Scheme::Dark
+                                            ? QLatin1String("-dark.png")
+                                            : QLatin1String("-light.png"));
+    return Bundle::main().pathForImage(name).isEmpty() ? imageName_ : name;
 }
 
 void ImageView::setRotation(double degrees) {
@@ -43,11 +62,6 @@ QImage ImageView::fitted(const QSize& pixels) const {
     const QSize target = image.size().scaled(pixels, Qt::KeepAspectRatio);
     if (target != image.size())
         image = image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    if (tinted_) {
-        QPainter painter(&image);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(image.rect(), Theme::color(Theme::Color::PrimaryText));
-    }
     image.setDevicePixelRatio(1.0);
     return image;
 }
@@ -65,11 +79,12 @@ QImage ImageView::turned(const QImage& source) const {
 
 void ImageView::paintEvent(QPaintEvent* /*event*/) {
     if (image_.isNull() && !imageName_.isEmpty())
-        image_ = QImage(Bundle::main().pathForImage(imageName_));
+        image_ = QImage(Bundle::main().pathForImage(catalogueName()));
     if (image_.isNull())
         return;
     QPainter painter(this);
-    const double ratio = painter.device()->devicePixelRatioF();
+    const DeviceGrid grid(painter);
+    const double ratio = grid.scale();
     const QSize pixels = (QSizeF(size()) * ratio).toSize();
     if (ready_.isNull() || ready_.devicePixelRatio() != ratio ||
         (ready_.width() != pixels.width() && ready_.height() != pixels.height())) {
@@ -82,20 +97,13 @@ void ImageView::paintEvent(QPaintEvent* /*event*/) {
     }
     const QSizeF shown = QSizeF(ready_.size()) / ratio;
     const QPointF corner((width() - shown.width()) / 2.0, (height() - shown.height()) / 2.0);
-    const QPointF origin = painter.deviceTransform().map(QPointF(0, 0));
-    const auto snapped = [&](double position, double start) {
-        return (qRound(position * ratio + start) - start) / ratio;
-    };
-    painter.drawImage(QPointF(snapped(corner.x(), origin.x()), snapped(corner.y(), origin.y())),
-                      ready_);
+    painter.drawImage(grid.snapped(corner), ready_);
 }
 
 void ImageView::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::StyleChange || event->type() == QEvent::PaletteChange) {
-        ready_ = QImage();
-        update();
-    }
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::PaletteChange)
+        forgetCatalogueImage();
 }
 
 }  // namespace zephyrix

@@ -11,20 +11,21 @@ class ImageView : public QWidget {
     Q_OBJECT
     /// An image of the bundle's catalogue ("WindLabelSquare.png"); read when it is first painted.
     Q_PROPERTY(QString imageName READ imageName WRITE setImageName)
-    /// Paints the image's shape in the theme's text colour instead of its own colours.
-    Q_PROPERTY(bool tinted READ isTinted WRITE setTinted)
+    /// Takes the catalogue's image for the theme's ground instead: "WindLabelSquare-light.png" or
+    /// "WindLabelSquare-dark.png", and the plain one where there is none for it.
+    Q_PROPERTY(bool followsScheme READ followsScheme WRITE setFollowsScheme)
 
   public:
     explicit ImageView(QWidget* parent = nullptr);
 
     [[nodiscard]] const QImage& image() const noexcept { return image_; }
-    /// A null image clears the view.
+    /// A null image clears the view. The catalogue's image, if there was one, is forgotten.
     virtual void setImage(const QImage& image);
 
     [[nodiscard]] const QString& imageName() const noexcept { return imageName_; }
     void setImageName(const QString& name);
-    [[nodiscard]] bool isTinted() const noexcept { return tinted_; }
-    void setTinted(bool tinted);
+    [[nodiscard]] bool followsScheme() const noexcept { return followsScheme_; }
+    void setFollowsScheme(bool follows);
 
     [[nodiscard]] double rotation() const noexcept { return rotation_; }
     /// Degrees, clockwise on the screen.
@@ -37,6 +38,8 @@ class ImageView : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
+    [[nodiscard]] QString catalogueName() const;
+    void forgetCatalogueImage();
     [[nodiscard]] QImage fitted(const QSize& pixels) const;
     [[nodiscard]] QImage turned(const QImage& source) const;
 
@@ -44,7 +47,7 @@ class ImageView : public QWidget {
     QImage ready_;  // what was painted last, in device pixels; null after a change
     QString imageName_;
     double rotation_ = 0.0;
-    bool tinted_ = false;
+    bool followsScheme_ = false;
 };
 
 }  // namespace zephyrix

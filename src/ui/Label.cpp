@@ -10,10 +10,32 @@
 #include <QTextLayout>
 #include <QToolTip>
 
-#include "TextLine.h"
 #include "foundation/FatalError.h"
 
 namespace zephyrix {
+
+namespace {
+
+double widestLine(const QString& text, const QFont& font, TextLine::Figures figures) {
+    double widest = 0.0;
+    for (const QString& line : text.split(QLatin1Char('\n')))
+        widest = std::max(widest, TextLine(line, font, figures).width());
+    return widest;
+}
+
+QStringList wrapped(const QString& paragraph, const QFont& font, double width) {
+    QTextLayout layout(paragraph, font);
+    QStringList lines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        lines << paragraph.mid(line.textStart(), line.textLength()).trimmed();
+    }
+    layout.endLayout();
+    return lines;
+}
+
+}  // namespace
 
 Label::Label(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
@@ -69,41 +91,47 @@ QFont Label::styledFont() const {
     return hasGivenFont_ ? givenFont_ : Theme::font(style_);
 }
 
-QFont Label::fittedFont() const {
+TextLine::Figures Label::figures() const {
+    return Theme::hasTabularFigures(style_) ? TextLine::Figures::Tabular
+                                            : TextLine::Figures::Proportional;
+}
+
+QFont Label::fittedFont(double width) const {
     QFont font = styledFont();
-    if (minimumScale_ >= 1.0 || wordWrap())
+    if (minimumScale_ >= 1.0)
         return font;
-    const double natural = TextLine(text(), font).width();
-    if (natural <= width())
+    // Wrapped text needs room for its longest word only.
+    const double natural =
+        wordWrap() ? widestLine(text().simplified().replace(QLatin1Char(' '), QLatin1Char('\n')),
+                                font, figures())
+                   : widestLine(text(), font, figures());
+    if (natural <= width)
         return font;
-    const double scale = std::max(minimumScale_, width() / natural);
+    const double scale = std::max(minimumScale_, width / natural);
     font.setPixelSize(std::max(1, static_cast<int>(std::floor(font.pixelSize() * scale))));
     return font;
 }
 
 QStringList Label::linesIn(const QFont& font) const {
-    if (!wordWrap())
-        return {TextLine::elided(text(), font, width())};
-    const QFontMetricsF metrics(font);
-    const auto room = std::max(1, static_cast<int>(height() / metrics.lineSpacing()));
-    QTextLayout layout(text(), font);
     QStringList lines;
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width());
-        const bool last = lines.size() + 1 == room;
-        const QString rest = text().mid(line.textStart());
-        lines << (last ? TextLine::elided(rest, font, width())
-                       : rest.left(line.textLength()).trimmed());
-        if (last)
-            break;
+    for (const QString& paragraph : text().split(QLatin1Char('\n')))
+        if (wordWrap())
+            for (const QString& line : wrapped(paragraph, font, width()))
+                lines << TextLine::elided(line, font, figures(), width());
+        else
+            lines << TextLine::elided(paragraph, font, figures(), width());
+    const auto room = std::max<qsizetype>(
+        1, static_cast<qsizetype>(height() / QFontMetricsF(font).lineSpacing()));
+    if (wordWrap() && lines.size() > room) {
+        const QString rest = lines.mid(room - 1).join(QLatin1Char(' '));
+        lines = lines.mid(0, room - 1);
+        lines << TextLine::elided(rest, font, figures(), width());
     }
-    layout.endLayout();
     return lines;
 }
 
 QStringList Label::displayedLines() const {
-    return linesIn(fittedFont());
+    return linesIn(fittedFont(width()));
 }
 
 bool Label::isTruncated() const {
@@ -112,11 +140,29 @@ bool Label::isTruncated() const {
            !text().endsWith(QChar(0x2026));
 }
 
+void Label::setExactFrame(const QRectF& frame) {
+    exactFrame_ = frame;
+    setGeometry(frame.toRect());
+}
+
 QSize Label::sizeHint() const {
     const QFont font = styledFont();
     const QFontMetricsF metrics(font);
-    return {static_cast<int>(std::ceil(TextLine(text(), font).width())),
-            static_cast<int>(std::ceil(metrics.height()))};
+    const auto breaks = static_cast<double>(text().count(QLatin1Char('\n')));
+    return {static_cast<int>(std::ceil(widestLine(text(), font, figures()))),
+            static_cast<int>(std::ceil(metrics.height() + breaks * metrics.lineSpacing()))};
+}
+
+int Label::heightForWidth(int width) const {
+    if (!wordWrap())
+        return -1;
+    const QFont font = fittedFont(width);
+    qsizetype lines = 0;
+    for (const QString& paragraph : text().split(QLatin1Char('\n')))
+        lines += wrapped(paragraph, font, width).size();
+    const QFontMetricsF metrics(font);
+    return static_cast<int>(
+        std::ceil(metrics.height() + static_cast<double>(lines - 1) * metrics.lineSpacing()));
 }
 
 // A label may always become narrower: it elides.
@@ -141,13 +187,13 @@ void Label::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     if (backgroundColor_.alpha() > 0)
         painter.fillRect(rect(), backgroundColor_);
-    const QFont font = fittedFont();
+    const QFont font = fittedFont(width());
     const QStringList lines = linesIn(font);
     painter.setPen(textColor());
     const auto side = QStyle::visualAlignment(layoutDirection(), alignment());
     double baseline = firstBaseline(font, lines.size());
     for (const QString& text : lines) {
-        const TextLine line(text, font);
+        const TextLine line(text, font, figures());
         double left = 0.0;
         if (side & Qt::AlignRight)
             left = width() - line.width();

@@ -3,12 +3,14 @@
 #include <QColor>
 #include <QLabel>
 
+#include "TextLine.h"
 #include "Theme.h"
 
 namespace zephyrix {
 
-/// A text in one of the theme's styles, with tabular figures. What does not fit is first made
-/// smaller (down to the least scale), then elided; the whole text stays readable in the tooltip and
+/// A text in one of the theme's styles, with tabular figures; a line break in it begins a new line,
+/// and with word wrap so does the view's edge. What does not fit is first made smaller (down to the
+/// least scale, without word wrap), then elided; the whole text stays readable in the tooltip and
 /// for screen readers.
 class Label : public QLabel {
     Q_OBJECT
@@ -36,12 +38,19 @@ class Label : public QLabel {
     [[nodiscard]] QColor textColor() const;
     void setBackgroundColor(const QColor& color);
 
+    /// A place between whole points is remembered and filled as well as whole points can.
+    void setExactFrame(const QRectF& frame);
+    [[nodiscard]] const QRectF& exactFrame() const noexcept { return exactFrame_; }
+
     /// As painted in the view's present size, line by line.
     [[nodiscard]] QStringList displayedLines() const;
     [[nodiscard]] bool isTruncated() const;
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override { return wordWrap(); }
+    /// What the wrapped text needs at this width, in points.
+    [[nodiscard]] int heightForWidth(int width) const override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -50,7 +59,8 @@ class Label : public QLabel {
 
   private:
     [[nodiscard]] QFont styledFont() const;
-    [[nodiscard]] QFont fittedFont() const;
+    [[nodiscard]] TextLine::Figures figures() const;
+    [[nodiscard]] QFont fittedFont(double width) const;
     [[nodiscard]] QStringList linesIn(const QFont& font) const;
     [[nodiscard]] double firstBaseline(const QFont& font, qsizetype lineCount) const;
 
@@ -62,6 +72,7 @@ class Label : public QLabel {
     QFont givenFont_;
     bool hasGivenFont_ = false;
     QColor backgroundColor_ = Qt::transparent;
+    QRectF exactFrame_;
 };
 
 }  // namespace zephyrix

@@ -17,9 +17,12 @@ QEvent::Type layoutPassEvent() {
     return type;
 }
 
+// A view that was not shown yet gets no resize events, so its layout must be told its place.
 void activateLayouts(QWidget* view) {
-    if (view->layout() != nullptr)
-        view->layout()->activate();
+    if (QLayout* layout = view->layout(); layout != nullptr) {
+        layout->activate();
+        layout->setGeometry(view->contentsRect());
+    }
     const auto children = view->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (QWidget* child : children)
         activateLayouts(child);

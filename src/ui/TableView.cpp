@@ -89,8 +89,10 @@ void TableView::scheduleLayout() {
 void TableView::layoutIfNeeded() {
     if (std::exchange(needsReload_, false))
         reloadRows();
-    if (std::exchange(needsPlacing_, false))
+    if (placedWidth_ != width()) {
         placeRows();
+        setContentHeight(contentHeight_);
+    }
     for (TableCell* cell : rows_)
         cell->layoutIfNeeded();
 }
@@ -207,9 +209,12 @@ void TableView::placeRows() {
     double top = 0.0;
     for (int row = 0; row < static_cast<int>(rows_.size()); ++row) {
         const double height = controller_->heightForRowAtIndexPath({row, 0});
-        cellForRow({row, 0})->setGeometry(0, qRound(top), width(), qRound(height));
+        TableCell* cell = cellForRow({row, 0});
+        cell->setGeometry(0, qRound(top), width(), qRound(height));
+        cell->setNeedsLayout();
         top += height;
     }
+    placedWidth_ = width();
     rowArea_->update();
 }
 
@@ -309,11 +314,8 @@ void TableView::paintSeparators() {
 
 void TableView::resizeEvent(QResizeEvent* event) {
     View::resizeEvent(event);
-    needsPlacing_ = true;
-    scheduleLayout();
-    rowArea_->resize(width(), rowArea_->height());
-    if (footer_)
-        footer_->resize(width(), footer_->height());
+    if (placedWidth_ != width())
+        scheduleLayout();
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {

@@ -109,8 +109,8 @@ class TableView : public View, public NibObject {
     QVariantAnimation heightAnimation_;
     double contentHeight_ = 0.0;
     int pressedRow_ = -1;
+    int placedWidth_ = -1;  // points; for which the rows were placed
     bool needsReload_ = false;
-    bool needsPlacing_ = false;
     bool layoutPosted_ = false;
 };
 

@@ -29,7 +29,8 @@ void TextButton::paintEvent(QPaintEvent* /*event*/) {
         painter.fillRect(rect(), Theme::color(Theme::Color::HoverShade));
     const QFont font = Theme::font(Theme::TextStyle::Button);
     const QFontMetricsF metrics(font);
-    const TextLine line(TextLine::elided(text(), font, width() - 8.0), font);
+    const TextLine line(
+        TextLine::elided(text(), font, TextLine::Figures::Proportional, width() - 8.0), font);
     painter.setPen(Theme::color(isDown() ? Theme::Color::PrimaryText
                                          : Theme::textColor(Theme::TextStyle::Button)));
     line.draw(painter, (width() - line.width()) / 2.0,

@@ -23,14 +23,15 @@ double figureWidth(const QFontMetricsF& metrics) {
 
 }  // namespace
 
-TextLine::TextLine(QString text, const QFont& font) : text_(std::move(text)), font_(font) {}
+TextLine::TextLine(QString text, const QFont& font, Figures figures)
+    : text_(std::move(text)), font_(font), figures_(figures) {}
 
 // Calls visit(run, its width, its offset inside that width): a run is one figure, or all between
 // two.
 template <class Visit>
 void TextLine::visitRuns(const Visit& visit) const {
     const QFontMetricsF metrics(font_);
-    if (text_.isRightToLeft()) {
+    if (figures_ == Figures::Proportional || text_.isRightToLeft()) {
         visit(text_, metrics.horizontalAdvance(text_), 0.0);
         return;
     }
@@ -62,15 +63,15 @@ void TextLine::draw(QPainter& painter, double left, double baseline) const {
     });
 }
 
-QString TextLine::elided(const QString& text, const QFont& font, double width) {
-    if (TextLine(text, font).width() <= width)
+QString TextLine::elided(const QString& text, const QFont& font, Figures figures, double width) {
+    if (TextLine(text, font, figures).width() <= width)
         return text;
     // Tabular figures are wider than the font's own: ask for a little less until it fits.
     const QFontMetricsF metrics(font);
     QString shorter;
     for (double room = width; room > 0.0; room -= 2.0) {
         shorter = metrics.elidedText(text, Qt::ElideRight, room);
-        if (TextLine(shorter, font).width() <= width)
+        if (TextLine(shorter, font, figures).width() <= width)
             break;
     }
     return shorter;

@@ -7,18 +7,21 @@ class QPainter;
 
 namespace zephyrix {
 
-/// One line of text with tabular figures: every digit takes the same width, so that numbers below
-/// each other line up. Text of right-to-left scripts is set as the toolkit sets it.
+/// One line of text. With tabular figures every digit takes the same width, so that numbers below
+/// each other line up; text of right-to-left scripts is set as the toolkit sets it.
 class TextLine {
   public:
-    TextLine(QString text, const QFont& font);
+    enum class Figures : bool { Proportional, Tabular };
+
+    TextLine(QString text, const QFont& font, Figures figures = Figures::Proportional);
 
     [[nodiscard]] double width() const;  // points
     /// `baseline` and `left` in points of the painter.
     void draw(QPainter& painter, double left, double baseline) const;
 
     /// The text itself when it fits, else its beginning and "…".
-    [[nodiscard]] static QString elided(const QString& text, const QFont& font, double width);
+    [[nodiscard]] static QString elided(const QString& text, const QFont& font, Figures figures,
+                                        double width);
 
   private:
     template <class Visit>
@@ -26,6 +29,7 @@ class TextLine {
 
     QString text_;
     QFont font_;
+    Figures figures_;
 };
 
 }  // namespace zephyrix

@@ -38,7 +38,7 @@ constexpr std::array colorTable = {
     ColorRow{Color::WindRing, argb(255, 16, 22, 34), argb(255, 255, 255, 255)},
     ColorRow{Color::VibrancyShade, argb(30, 16, 22, 34), argb(0, 0, 0, 0)},
     ColorRow{Color::HoverShade, argb(12, 16, 22, 34), argb(14, 255, 255, 255)},
-    ColorRow{Color::Shadow, argb(70, 10, 16, 30), argb(110, 0, 0, 0)},
+    ColorRow{Color::Shadow, argb(52, 10, 16, 30), argb(110, 0, 0, 0)},
 };
 
 struct TextStyleRow {
@@ -47,21 +47,23 @@ struct TextStyleRow {
     double size;  // points of the panel, at text scale 1
     QFont::Weight weight;
     Color color;
+    bool tabular;  // figures of one width: for numbers below or beside each other
 };
 
 constexpr std::array textStyleTable = {
-    TextStyleRow{TextStyle::Title, "title", 15.0, QFont::DemiBold, Color::PrimaryText},
-    TextStyleRow{TextStyle::Time, "time", 12.0, QFont::Normal, Color::SecondaryText},
-    TextStyleRow{TextStyle::Strong, "strong", 34.0, QFont::Light, Color::PrimaryText},
-    TextStyleRow{TextStyle::Words, "words", 12.5, QFont::Normal, Color::PrimaryText},
-    TextStyleRow{TextStyle::Value, "value", 15.0, QFont::Medium, Color::PrimaryText},
-    TextStyleRow{TextStyle::Unit, "unit", 10.5, QFont::Normal, Color::SecondaryText},
-    TextStyleRow{TextStyle::WindSpeed, "windSpeed", 16.0, QFont::DemiBold, Color::PrimaryText},
-    TextStyleRow{TextStyle::Day, "day", 11.5, QFont::Medium, Color::SecondaryText},
-    TextStyleRow{TextStyle::High, "high", 13.0, QFont::DemiBold, Color::PrimaryText},
-    TextStyleRow{TextStyle::Low, "low", 13.0, QFont::Normal, Color::SecondaryText},
-    TextStyleRow{TextStyle::Button, "button", 12.5, QFont::Medium, Color::SecondaryText},
-    TextStyleRow{TextStyle::Message, "message", 14.0, QFont::Normal, Color::PrimaryText},
+    TextStyleRow{TextStyle::Title, "title", 15.0, QFont::DemiBold, Color::PrimaryText, false},
+    TextStyleRow{TextStyle::Time, "time", 12.0, QFont::Normal, Color::SecondaryText, false},
+    TextStyleRow{TextStyle::Strong, "strong", 34.0, QFont::Light, Color::PrimaryText, false},
+    TextStyleRow{TextStyle::Words, "words", 12.5, QFont::Normal, Color::PrimaryText, false},
+    TextStyleRow{TextStyle::Value, "value", 15.0, QFont::Medium, Color::PrimaryText, true},
+    TextStyleRow{TextStyle::Unit, "unit", 10.5, QFont::Normal, Color::SecondaryText, true},
+    TextStyleRow{TextStyle::WindSpeed, "windSpeed", 16.0, QFont::DemiBold, Color::PrimaryText,
+                 false},
+    TextStyleRow{TextStyle::Day, "day", 11.5, QFont::Medium, Color::SecondaryText, false},
+    TextStyleRow{TextStyle::High, "high", 13.0, QFont::DemiBold, Color::PrimaryText, true},
+    TextStyleRow{TextStyle::Low, "low", 13.0, QFont::Normal, Color::SecondaryText, true},
+    TextStyleRow{TextStyle::Button, "button", 12.5, QFont::Medium, Color::SecondaryText, false},
+    TextStyleRow{TextStyle::Message, "message", 14.0, QFont::Normal, Color::PrimaryText, false},
 };
 
 const TextStyleRow& rowOf(TextStyle style) {
@@ -119,6 +121,10 @@ QFont Theme::font(TextStyle style) {
 
 Theme::Color Theme::textColor(TextStyle style) {
     return rowOf(style).color;
+}
+
+bool Theme::hasTabularFigures(TextStyle style) {
+    return rowOf(style).tabular;
 }
 
 std::optional<Theme::TextStyle> Theme::textStyleNamed(const QString& name) {

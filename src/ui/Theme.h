@@ -57,6 +57,7 @@ class Theme {
 
     [[nodiscard]] static QFont font(TextStyle style);
     [[nodiscard]] static Color textColor(TextStyle style);
+    [[nodiscard]] static bool hasTabularFigures(TextStyle style);
     /// Nothing for a name that no style has.
     [[nodiscard]] static std::optional<TextStyle> textStyleNamed(const QString& name);
     /// The desktop's text size against the usual one: 1.0 for 9 to 11 point, at most 1.25.
