@@ -1,0 +1,89 @@
+// Paints the two rows with made-up weather into a folder of pictures, for those who work on
+// layouts, theme or artwork: cells_preview FOLDER
+#include <array>
+
+#include <QApplication>
+#include <QDir>
+
+#include "Stage.h"
+#include "foundation/Bundle.h"
+#include "foundation/Clock.h"
+#include "ui/Motion.h"
+#include "ui/Theme.h"
+
+namespace {
+
+using namespace zephyrix;
+using namespace zephyrix::testing;
+
+struct Case {
+    const char* name;
+    const char* locale;
+    const char* place;
+    int width;
+    double scale;
+    Theme::Scheme scheme;
+    bool expanded;
+    bool missing;
+};
+
+constexpr auto light = Theme::Scheme::Light;
+constexpr auto dark = Theme::Scheme::Dark;
+
+constexpr std::array cases = {
+    Case{"de-440-dark", "de_DE.UTF-8", "Berlin", 440, 2.0, dark, true, false},
+    Case{"de-440-light", "de_DE.UTF-8", "Berlin", 440, 2.0, light, true, false},
+    Case{"ru-440-dark", "ru_RU.UTF-8", "Санкт-Петербург", 440, 2.0, dark, true, false},
+    Case{"ru-320-light", "ru_RU.UTF-8", "Санкт-Петербург", 320, 2.0, light, true, false},
+    Case{"de-320-dark", "de_DE.UTF-8", "Frankfurt am Main", 320, 2.0, dark, true, false},
+    Case{"en-375-light", "en_GB.UTF-8", "Berlin", 375, 2.0, light, true, false},
+    Case{"fr-414-dark", "fr_FR.UTF-8", "Saint-Étienne", 414, 2.0, dark, true, false},
+    Case{"en-600-dark", "en_GB.UTF-8", "Berlin", 600, 2.0, dark, true, false},
+    Case{"en-375-light-1x", "en_GB.UTF-8", "Berlin", 375, 1.0, light, true, false},
+    Case{"en-375-dark-125", "en_GB.UTF-8", "Berlin", 375, 1.25, dark, true, false},
+    Case{"en-440-dark-3x", "en_GB.UTF-8", "Berlin", 440, 3.0, dark, false, false},
+    Case{"en-375-missing", "en_GB.UTF-8", "Berlin", 375, 2.0, light, true, true},
+};
+
+Weather weatherOf(const Case& shown) {
+    Weather weather = showerInBerlin();
+    weather.place[QStringLiteral("name")] = QString::fromUtf8(shown.place);
+    if (!shown.missing)
+        return weather;
+    for (const char* key : {"tt", "td", "dd", "ff", "rrr", "rrrh", "n", "ww", "ppp"})
+        weather.observation[QString::fromLatin1(key)] = -9999;
+    QVariantMap first = weather.days.first().toMap();
+    first.remove(QStringLiteral("tx"));
+    first.remove(QStringLiteral("symbol"));
+    weather.days.first() = first;
+    return weather;
+}
+
+void paint(const Case& shown, const QDir& folder) {
+    useLanguage(shown.locale);
+    Theme::setScheme(shown.scheme);
+    Stage stage(weatherOf(shown), shown.width, shown.scale);
+    stage.layOut();
+    if (shown.expanded)
+        stage.toggle();
+    stage.picture().save(folder.filePath(QString::fromLatin1(shown.name) + QStringLiteral(".png")));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("TZ", "Europe/Berlin");
+    qputenv("LANGUAGE", "");
+    qunsetenv("LC_ALL");
+    const QApplication application(argc, argv);
+    if (argc != 2)
+        qFatal("usage: cells_preview FOLDER");
+    const QDir folder(QString::fromLocal8Bit(argv[1]));
+    folder.mkpath(QStringLiteral("."));
+    Motion::setReduced(true);
+    const ReplacedClock clock([] { return Instant::fromSecondsSince1970(1433154000); });
+    for (const Case& shown : cases)
+        paint(shown, folder);
+    return 0;
+}
