@@ -17,10 +17,10 @@ namespace zephyrix {
 
 namespace {
 
-constexpr double kLargestSize = 1024.0;        // points
-constexpr double kLargestScale = 4.0;          // pixels a point
-constexpr double kLargestSheetSymbol = 256.0;  // pixels: a sheet of these is some 100 MB
-constexpr qint64 kProgressEvery = 1000;        // milliseconds
+constexpr double largestSize = 1024.0;        // points
+constexpr double largestScale = 4.0;          // pixels a point
+constexpr double largestSheetSymbol = 256.0;  // pixels: a sheet of these is some 100 MB
+constexpr qint64 progressEvery = 1000;        // milliseconds
 
 /// The arguments of the command, each checked as it is asked for.
 class SymbolArguments {
@@ -54,7 +54,7 @@ class SymbolArguments {
     }
 
     [[nodiscard]] SymbolSheetOptions look() const {
-        return {number("size", 40.0, kLargestSize), number("scale", 1.0, kLargestScale), date()};
+        return {number("size", 40.0, largestSize), number("scale", 1.0, largestScale), date()};
     }
 
   private:
@@ -104,13 +104,13 @@ void write(const QImage& image, const QString& path) {
 }
 
 QImage sheet(const SymbolSheetOptions& look) {
-    if (look.size * look.scale > kLargestSheetSymbol)
+    if (look.size * look.scale > largestSheetSymbol)
         throw CommandError::usage(
-            QStringLiteral("on a sheet, symbols have up to %1 pixels").arg(kLargestSheetSymbol));
+            QStringLiteral("on a sheet, symbols have up to %1 pixels").arg(largestSheetSymbol));
     QElapsedTimer sinceLastLine;
     sinceLastLine.start();
     return symbolSheet(look, [&](int done, int all) {
-        if (sinceLastLine.elapsed() < kProgressEvery)
+        if (sinceLastLine.elapsed() < progressEvery)
             return;
         std::fprintf(stderr, "%d of %d symbols\n", done, all);
         sinceLastLine.restart();

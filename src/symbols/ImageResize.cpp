@@ -11,7 +11,7 @@ namespace zephyrix {
 
 namespace {
 
-constexpr double kLargestSide = 16384.0;  // pixels; larger bitmaps are taken for an error
+constexpr double largestSide = 16384.0;  // pixels; larger bitmaps are taken for an error
 
 bool isTransposed(ImageOrientation orientation) {
     return orientation == ImageOrientation::Left || orientation == ImageOrientation::Right ||
@@ -42,7 +42,7 @@ QSize integralSize(const QSizeF& size) {
     const double width = std::ceil(size.width());
     const double height = std::ceil(size.height());
     const bool possible =
-        width >= 1 && height >= 1 && width <= kLargestSide && height <= kLargestSide;
+        width >= 1 && height >= 1 && width <= largestSide && height <= largestSide;
     return possible ? QSize(static_cast<int>(width), static_cast<int>(height)) : QSize();
 }
 

@@ -12,9 +12,9 @@ namespace zephyrix {
 
 namespace {
 
-constexpr std::uint64_t kClouds = 9;         // cloud images are numbered below this
-constexpr std::uint64_t kThunderSeries = 3;  // a cloud's thunder image lies so much further on
-constexpr std::int32_t kMoonWithoutDate = 8;
+constexpr std::uint64_t endOfCloudImages = 9;  // cloud images are numbered below this
+constexpr std::uint64_t thunderSeries = 3;     // a cloud's thunder image lies so much further on
+constexpr std::int32_t moonWithoutDate = 8;
 
 bool hasCelestialBody(std::uint64_t code) {
     return code >= 1'000'000 && code <= 9'000'000;
@@ -138,7 +138,7 @@ void QKCompoundSymbol::setupCelestrialForSymbol(std::uint64_t code) {
     if (moon_)
         moonphase_ = date_ ? MoonCalculations::imageNumberForPhase(
                                  MoonCalculations::currentMoonForDate(*date_))
-                           : kMoonWithoutDate;
+                           : moonWithoutDate;
 }
 
 void QKCompoundSymbol::prepareRectsForSymbolCode(std::uint64_t code) {
@@ -172,8 +172,8 @@ QString QKCompoundSymbol::cloudName(std::uint64_t code) {
     if (digit == 0)
         return {};
     cloud_ = digit;
-    const std::uint64_t image = digit + (lightning_ ? kThunderSeries : 0);
-    return image < kClouds ? QStringLiteral("cloud%1").arg(image) : QString();
+    const std::uint64_t image = digit + (lightning_ ? thunderSeries : 0);
+    return image < endOfCloudImages ? QStringLiteral("cloud%1").arg(image) : QString();
 }
 
 QString QKCompoundSymbol::warningName(std::uint64_t code) {

@@ -24,9 +24,9 @@ namespace zephyrix {
 
 namespace {
 
-constexpr std::int64_t kFirstCode = 1'000'000;
-constexpr std::int64_t kLastCode = 9'999'999;
-constexpr qsizetype kLayerMemory = 8 * 1024;  // kB
+constexpr std::int64_t firstCode = 1'000'000;
+constexpr std::int64_t lastCode = 9'999'999;
+constexpr qsizetype layerMemory = 8 * 1024;  // kB
 
 struct LayerKey {
     QString bundle;  // empty for the set inside the program
@@ -42,7 +42,7 @@ struct LayerKey {
 /// What the process keeps, each part made on first use.
 struct Kept {
     QHash<QString, QImage> symbols;
-    QCache<LayerKey, QImage> layers{kLayerMemory};
+    QCache<LayerKey, QImage> layers{layerMemory};
     std::optional<std::int64_t> chosenSet;  // instead of the user's
     std::optional<QString> bundle;
     QString folder;  // empty until it is needed
@@ -110,7 +110,7 @@ QImage keptLayer(const LayerKey& key, const Make& make) {
 
 QImage composedSymbol(const QString& name, const QSizeF& pixelSize) {
     const std::int64_t code = integerValueOf(name);
-    if (code < kFirstCode || code > kLastCode)
+    if (code < firstCode || code > lastCode)
         return {};
     return QKCompoundSymbol().symbolForCode(Number(static_cast<qlonglong>(code)), pixelSize);
 }

@@ -8,7 +8,7 @@ namespace zephyrix {
 
 namespace {
 
-constexpr double kLargestSide = 16384.0;  // pixels; larger bitmaps are taken for an error
+constexpr double largestSide = 16384.0;  // pixels; larger bitmaps are taken for an error
 
 }  // namespace
 
@@ -16,7 +16,7 @@ QSize pixelSize(const QSizeF& size) {
     const double width = std::round(size.width());
     const double height = std::round(size.height());
     const bool possible =
-        width >= 1 && height >= 1 && width <= kLargestSide && height <= kLargestSide;
+        width >= 1 && height >= 1 && width <= largestSide && height <= largestSide;
     return possible ? QSize(static_cast<int>(width), static_cast<int>(height)) : QSize();
 }
 

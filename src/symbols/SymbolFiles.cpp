@@ -13,10 +13,10 @@ namespace zephyrix {
 
 namespace {
 
-constexpr int kLargestSide = 4096;  // pixels
-constexpr double kLargestScale = 16.0;
+constexpr int largestSide = 4096;  // pixels
+constexpr double largestScale = 16.0;
 // Of Qt's 0 (smallest file) to 100: a third of the default's time for a file a little larger.
-constexpr int kPngQuality = 80;
+constexpr int pngQuality = 80;
 
 QByteArray pngFormat() {
     return QByteArrayLiteral("png");
@@ -31,13 +31,15 @@ QByteArray encoded(const QImage& image) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     QImageWriter writer(&buffer, pngFormat());
-    writer.setQuality(kPngQuality);
+    writer.setQuality(pngQuality);
     writer.setText(scaleTag(), QString::number(image.devicePixelRatio()));
     return writer.write(image) ? bytes : QByteArray();
 }
 
 /// Deliberately in place: a reader that finds half a file takes it for none.
 void writeFile(const QImage& image, const QString& path) {
+    if (const QFileInfo there(path); there.exists() && !there.isFile())
+        return;  // a pipe would make us wait
     const QByteArray bytes = encoded(image);
     QFile file(path);
     if (bytes.isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
@@ -54,14 +56,14 @@ QImage readSymbolFile(const QString& path) {
     QImageReader reader(path, pngFormat());
     reader.setAutoDetectImageFormat(false);
     const QSize size = reader.size();
-    if (size.isEmpty() || size.width() > kLargestSide || size.height() > kLargestSide)
+    if (size.isEmpty() || size.width() > largestSide || size.height() > largestSide)
         return {};
     QImage image = reader.read();
     if (image.isNull())
         return {};
     image.convertTo(QImage::Format_ARGB32_Premultiplied);
     const double scale = image.text(scaleTag()).toDouble();
-    if (scale > 0 && scale <= kLargestScale)
+    if (scale > 0 && scale <= largestScale)
         image.setDevicePixelRatio(scale);
     return image;
 }

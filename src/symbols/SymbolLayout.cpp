@@ -20,10 +20,10 @@ using Place = std::optional<Placement>;  // nothing: the layer fills the canvas
 
 // Sets of cloud digits, a bit a digit.
 using CloudDigits = unsigned;
-constexpr CloudDigits kAnyCloud = 0b11'1111'1111;
-constexpr CloudDigits kNoCloud = 0b00'0000'0001;
-constexpr CloudDigits kCloud1Or4 = 0b00'0001'0010;
-constexpr CloudDigits kCloud1To8 = 0b01'1111'1110;
+constexpr CloudDigits anyCloud = 0b11'1111'1111;
+constexpr CloudDigits noCloud = 0b00'0000'0001;
+constexpr CloudDigits cloud1Or4 = 0b00'0001'0010;
+constexpr CloudDigits cloud1To8 = 0b01'1111'1110;
 
 struct LayoutCase {
     bool celestrial;
@@ -35,36 +35,37 @@ struct LayoutCase {
     Place prec;
 };
 
-constexpr Place kFull = std::nullopt;
+constexpr Place fullCanvas = std::nullopt;
 
 // The first row that fits decides.
-constexpr std::array kLayout{
+constexpr std::array layoutCases{
     // No body: the cloud alone, over precipitation, and precipitation without a cloud.
-    LayoutCase{false, false, kAnyCloud, kFull, kFull, Placement{1.0, 0.5, 0.5}, kFull},
-    LayoutCase{false, true, kNoCloud, kFull, kFull, Placement{0.9, 0.52, 0.375},
+    LayoutCase{false, false, anyCloud, fullCanvas, fullCanvas, Placement{1.0, 0.5, 0.5},
+               fullCanvas},
+    LayoutCase{false, true, noCloud, fullCanvas, fullCanvas, Placement{0.9, 0.52, 0.375},
                Placement{1.0, 0.5, 0.2}},
-    LayoutCase{false, true, kAnyCloud, kFull, kFull, Placement{0.9, 0.52, 0.375},
+    LayoutCase{false, true, anyCloud, fullCanvas, fullCanvas, Placement{0.9, 0.52, 0.375},
                Placement{1.0, 0.5, 0.4512}},
     // The small clouds leave more of the body free.
-    LayoutCase{true, true, kCloud1Or4, Placement{0.8, 0.4, 0.375}, Placement{0.75, 0.3975, 0.375},
+    LayoutCase{true, true, cloud1Or4, Placement{0.8, 0.4, 0.375}, Placement{0.75, 0.3975, 0.375},
                Placement{0.95, 0.615, 0.416}, Placement{1.0, 0.5391, 0.5}},
-    LayoutCase{true, false, kCloud1Or4, Placement{0.9, 0.4, 0.475}, Placement{0.84, 0.4063, 0.475},
-               Placement{1.0, 0.6397, 0.5303}, kFull},
+    LayoutCase{true, false, cloud1Or4, Placement{0.9, 0.4, 0.475}, Placement{0.84, 0.4063, 0.475},
+               Placement{1.0, 0.6397, 0.5303}, fullCanvas},
     // All others, also no cloud: a clear sky has its sun up and to the left of the middle.
-    LayoutCase{true, true, kCloud1To8, Placement{0.8, 0.435, 0.3516},
-               Placement{0.75, 0.435, 0.3516}, Placement{0.925, 0.5127, 0.422}, kFull},
-    LayoutCase{true, true, kAnyCloud, Placement{0.8, 0.5, 0.5}, Placement{0.75, 0.5, 0.5},
-               Placement{0.925, 0.5127, 0.422}, kFull},
-    LayoutCase{true, false, kAnyCloud, Placement{0.8, 0.435, 0.4492},
-               Placement{0.75, 0.435, 0.4492}, Placement{0.925, 0.5127, 0.5193}, kFull},
+    LayoutCase{true, true, cloud1To8, Placement{0.8, 0.435, 0.3516}, Placement{0.75, 0.435, 0.3516},
+               Placement{0.925, 0.5127, 0.422}, fullCanvas},
+    LayoutCase{true, true, anyCloud, Placement{0.8, 0.5, 0.5}, Placement{0.75, 0.5, 0.5},
+               Placement{0.925, 0.5127, 0.422}, fullCanvas},
+    LayoutCase{true, false, anyCloud, Placement{0.8, 0.435, 0.4492}, Placement{0.75, 0.435, 0.4492},
+               Placement{0.925, 0.5127, 0.5193}, fullCanvas},
 };
 
 const LayoutCase& layoutCase(const SymbolParts& parts) {
-    const auto* const found = std::ranges::find_if(kLayout, [&](const LayoutCase& row) {
+    const auto* const found = std::ranges::find_if(layoutCases, [&](const LayoutCase& row) {
         return row.celestrial == parts.celestrial && row.precipitation == parts.precipitation &&
                ((row.clouds >> parts.cloud) & 1U) != 0;
     });
-    if (found == kLayout.end())
+    if (found == layoutCases.end())
         fatalError(QStringLiteral("no layout for cloud digit %1").arg(parts.cloud));
     return *found;
 }

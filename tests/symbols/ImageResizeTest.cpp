@@ -12,9 +12,9 @@ namespace {
 
 using testing::filled;
 
-constexpr auto kHigh = InterpolationQuality::High;
-constexpr auto kFit = ContentMode::ScaleAspectFit;
-constexpr auto kFill = ContentMode::ScaleAspectFill;
+constexpr auto highQuality = InterpolationQuality::High;
+constexpr auto fit = ContentMode::ScaleAspectFit;
+constexpr auto fill = ContentMode::ScaleAspectFill;
 
 TEST(ImageResize, FitsAndFillsABoxByTheImagesSizeInPoints) {
     struct Case {
@@ -25,20 +25,20 @@ TEST(ImageResize, FitsAndFillsABoxByTheImagesSizeInPoints) {
         QSize expected;
     };
     const Case cases[] = {
-        {{64, 64}, 1.0, kFit, {40, 30}, {30, 30}},
-        {{64, 64}, 1.0, kFill, {40, 30}, {40, 40}},
-        {{64, 32}, 1.0, kFit, {40, 30}, {40, 20}},
-        {{64, 32}, 1.0, kFill, {40, 30}, {60, 30}},
-        {{90, 60}, 3.0, kFit, {60, 60}, {60, 40}},       // 30 x 20 points
-        {{100, 50}, 1.0, kFit, {33.4, 33.4}, {34, 17}},  // 33.4 x 16.7: parts of pixels count
-        {{8, 8}, 1.0, kFit, {100, 0.25}, {1, 1}},
-        {{8, 8}, 1.0, kFit, {40, 0}, {}},
-        {{}, 1.0, kFit, {40, 40}, {}},
+        {{64, 64}, 1.0, fit, {40, 30}, {30, 30}},
+        {{64, 64}, 1.0, fill, {40, 30}, {40, 40}},
+        {{64, 32}, 1.0, fit, {40, 30}, {40, 20}},
+        {{64, 32}, 1.0, fill, {40, 30}, {60, 30}},
+        {{90, 60}, 3.0, fit, {60, 60}, {60, 40}},       // 30 x 20 points
+        {{100, 50}, 1.0, fit, {33.4, 33.4}, {34, 17}},  // 33.4 x 16.7: parts of pixels count
+        {{8, 8}, 1.0, fit, {100, 0.25}, {1, 1}},
+        {{8, 8}, 1.0, fit, {40, 0}, {}},
+        {{}, 1.0, fit, {40, 40}, {}},
     };
     for (const Case& each : cases) {
         QImage image = filled(each.pixels, Qt::red);
         image.setDevicePixelRatio(each.scale);
-        const QImage resized = resizedImageWithContentMode(image, each.mode, each.box, kHigh);
+        const QImage resized = resizedImageWithContentMode(image, each.mode, each.box, highQuality);
         EXPECT_EQ(resized.size(), each.expected.isValid() ? each.expected : QSize(0, 0));
         EXPECT_EQ(resized.devicePixelRatio(), 1.0);
     }
@@ -48,14 +48,14 @@ TEST(ImageResize, RaisesForOtherContentModes) {
     const QImage image = filled({4, 4}, Qt::red);
     for (const int mode : {0, 3, -1}) {
         try {
-            (void)resizedImageWithContentMode(image, ContentMode{mode}, {8, 8}, kHigh);
+            (void)resizedImageWithContentMode(image, ContentMode{mode}, {8, 8}, highQuality);
             ADD_FAILURE() << mode;
         } catch (const NamedException& exception) {
             EXPECT_EQ(exception.name(), QStringLiteral("InvalidArgumentException"));
             EXPECT_EQ(exception.reason(), QStringLiteral("Unsupported content mode: %1").arg(mode));
         }
     }
-    EXPECT_TRUE(resizedImageWithContentMode({}, ContentMode{0}, {8, 8}, kHigh).isNull());
+    EXPECT_TRUE(resizedImageWithContentMode({}, ContentMode{0}, {8, 8}, highQuality).isNull());
 }
 
 /// Rings that grow finer outwards: what a poor filter makes jagged or turns into other patterns.
@@ -92,11 +92,12 @@ double meanErrorAgainstAreaMean(const QImage& large, const QImage& small) {
 
 TEST(ImageResize, HighQualityWeighsPixelsByTheirArea) {
     const QImage large = rings(256);
-    const double high = meanErrorAgainstAreaMean(large, resizedImage(large, {40, 40}, kHigh));
+    const double error =
+        meanErrorAgainstAreaMean(large, resizedImage(large, {40, 40}, highQuality));
     const double none =
         meanErrorAgainstAreaMean(large, resizedImage(large, {40, 40}, InterpolationQuality::None));
-    std::printf("mean alpha error 256 to 40 px: %.2f (nearest pixel: %.2f)\n", high, none);
-    EXPECT_LT(high, 1.5);
+    std::printf("mean alpha error 256 to 40 px: %.2f (nearest pixel: %.2f)\n", error, none);
+    EXPECT_LT(error, 1.5);
     EXPECT_GT(none, 30.0);  // the pattern is one that tells good from bad
 }
 
@@ -109,7 +110,7 @@ TEST(ImageResize, EdgesOfAColourStayInThatColour) {
     painter.setBrush(Qt::red);
     painter.drawEllipse(15, 15, 170, 170);
     painter.end();
-    const QImage small = resizedImage(disc, {37, 37}, kHigh);
+    const QImage small = resizedImage(disc, {37, 37}, highQuality);
     int edges = 0;
     for (int y = 0; y < 37; ++y)
         for (int x = 0; x < 37; ++x) {
@@ -148,7 +149,7 @@ TEST(ImageResize, TurnsEveryOrientationUpright) {
     for (const auto& each : cases) {
         const QString upright = QString::fromLatin1(each.upright);
         const QSize size = upright.size() == 8 ? QSize(3, 2) : QSize(2, 3);
-        EXPECT_EQ(lettersOf(resizedImage(image, size, kHigh, each.orientation)), upright);
+        EXPECT_EQ(lettersOf(resizedImage(image, size, highQuality, each.orientation)), upright);
     }
 }
 

@@ -20,13 +20,13 @@ class CompoundSymbol : public testing::SymbolSet {
     QKCompoundSymbol symbols;
 };
 
-constexpr int kSpotParts = 8;
+constexpr int spotParts = 8;
 
 /// Transparent but for a spot in the middle, an eighth of the side.
 QImage spot() {
     QImage image(64, 64, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
-    QPainter(&image).fillRect(28, 28, 64 / kSpotParts, 64 / kSpotParts, Qt::white);
+    QPainter(&image).fillRect(28, 28, 64 / spotParts, 64 / spotParts, Qt::white);
     return image;
 }
 
@@ -59,7 +59,7 @@ struct PlacedCase {
 };
 
 // Each line of the layout, asked by its codes and read off the picture.
-constexpr PlacedCase kPlacedCases[] = {
+constexpr PlacedCase placedCases[] = {
     {"cloud1", 100000, 1.0, 0.5, 0.5},       // a cloud alone fills the picture
     {"prec2000", 20000, 1.0, 0.5, 0.2},      // precipitation without a cloud
     {"prec2000", 720000, 1.0, 0.5, 0.4512},  // and below one
@@ -90,7 +90,7 @@ constexpr PlacedCase kPlacedCases[] = {
 
 TEST_F(CompoundSymbol, DrawsEachLayerWhereItsCaseWantsIt) {
     double worst = 0.0;
-    for (const PlacedCase& each : kPlacedCases) {
+    for (const PlacedCase& each : placedCases) {
         QDir(setFolder()).removeRecursively();
         QDir().mkpath(setFolder());
         add(QString::fromLatin1(each.layer), spot());
@@ -104,7 +104,7 @@ TEST_F(CompoundSymbol, DrawsEachLayerWhereItsCaseWantsIt) {
             const Spot found = spotOf(picture);
             EXPECT_NEAR(found.x, each.x * 80 * scale, 0.51);
             EXPECT_NEAR(found.y, each.y * 60 * scale, 0.51);
-            const double side = std::sqrt(80.0 * 60.0) * scale * each.scale / kSpotParts;
+            const double side = std::sqrt(80.0 * 60.0) * scale * each.scale / spotParts;
             EXPECT_NEAR(found.side, side, 0.1);
             worst = std::max({worst, std::abs(found.x - each.x * 80 * scale),
                               std::abs(found.y - each.y * 60 * scale)});

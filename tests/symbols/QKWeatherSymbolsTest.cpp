@@ -23,8 +23,8 @@ using testing::setScreenScale;
 
 class WeatherSymbols : public testing::SymbolSet {};
 
-const QColor kSet0Lamp(40, 50, 60);   // symbols_0/lamp of the catalogue
-const QColor kPlainLamp(10, 20, 30);  // PlainLamp of the catalogue
+const QColor set0Lamp(40, 50, 60);   // symbols_0/lamp of the catalogue
+const QColor plainLamp(10, 20, 30);  // PlainLamp of the catalogue
 
 QString cacheFolder() {
     return testing::testHome() + QStringLiteral("/cache/zephyrix-panel/symbolCache");
@@ -57,7 +57,7 @@ TEST_F(WeatherSymbols, WithoutABundleEveryNameIsOneOfSet0InTheProgram) {
     QDir(setFolder()).removeRecursively();
     EXPECT_EQ(QKWeatherSymbols::symbolBundle(), std::nullopt);
     const QImage lamp = QKWeatherSymbols::imageForSymbolName(QStringLiteral("lamp"));
-    EXPECT_EQ(lamp.pixelColor(0, 0), kSet0Lamp);
+    EXPECT_EQ(lamp.pixelColor(0, 0), set0Lamp);
     EXPECT_TRUE(QKWeatherSymbols::imageForSymbolName(QStringLiteral("PlainLamp.png")).isNull());
     // Nothing found is not remembered: a set that appears is used at once.
     QDir().mkpath(setFolder());
@@ -76,8 +76,8 @@ TEST_F(WeatherSymbols, ABundleFallsBackToThePlainNameAndStaysForTheProcess) {
     auto& defaults = UserDefaults::standard();
     defaults.set(QStringLiteral("symbolSet"), 7);
     EXPECT_EQ(QKWeatherSymbols::symbolBundle(), dataFolder() + QStringLiteral("/symbols_7.bundle"));
-    EXPECT_EQ(colour("PlainLamp.png"), kPlainLamp);
-    EXPECT_EQ(colour("PlainLamp"), kPlainLamp);
+    EXPECT_EQ(colour("PlainLamp.png"), plainLamp);
+    EXPECT_EQ(colour("PlainLamp"), plainLamp);
     EXPECT_EQ(colour("lamp"), QColor());
     defaults.remove(QStringLiteral("symbolSet"));
     EXPECT_EQ(QKWeatherSymbols::symbolBundle(), dataFolder() + QStringLiteral("/symbols_7.bundle"));
@@ -202,6 +202,8 @@ TEST_F(WeatherSymbols, TakesNeitherGiantsNorPipesForSymbols) {
     QFile::remove(path);
     ASSERT_EQ(mkfifo(path.toLocal8Bit().constData(), 0600), 0);
     EXPECT_TRUE(QKWeatherSymbols::imageFromCacheForKey(key()).isNull());  // and does not wait
+    QKWeatherSymbols::addObjectToCache(filled({4, 4}, Qt::red), key());
+    QKWeatherSymbols::waitForFiles();
 }
 
 TEST_F(WeatherSymbols, AFileInPlaceOfTheFolderLeavesTheMemory) {
