@@ -30,10 +30,16 @@ std::int64_t saturatedInteger(double value) noexcept {
     return static_cast<std::int64_t>(value);
 }
 
+/// The shortest text that reads back as the same value; plain digits for all magnitudes that people
+/// write out, an exponent beyond them.
 template <typename Real>
 QString shortestText(Real value) {
+    const double magnitude = std::abs(static_cast<double>(value));
+    const bool plain = magnitude == 0.0 || (magnitude >= 1e-4 && magnitude < 1e17);
     std::array<char, 32> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                   plain ? std::chars_format::fixed : std::chars_format::general)
+                         .ptr;
     return QString::fromLatin1(buffer.data(), end - buffer.data());
 }
 

@@ -43,6 +43,10 @@ TEST(Number, TextIsTheShortestThatReadsBack) {
     EXPECT_EQ(Number(52.53F).text(), QStringLiteral("52.53"));
     EXPECT_EQ(Number(static_cast<double>(52.53F)).text(), QStringLiteral("52.529998779296875"));
     EXPECT_EQ(Number(0.1).text(), QStringLiteral("0.1"));
+    EXPECT_EQ(Number(2123200.0).text(), QStringLiteral("2123200"));
+    EXPECT_EQ(Number(1e6F).text(), QStringLiteral("1000000"));
+    EXPECT_EQ(Number(-1e16).text(), QStringLiteral("-10000000000000000"));
+    EXPECT_EQ(Number(1e300).text(), QStringLiteral("1e+300"));
 }
 
 TEST(Number, IdentityIsTheBoxNotTheValue) {
