@@ -2,11 +2,10 @@
 
 #include <array>
 
-#include <QDate>
 #include <QDateTime>
-#include <QRegularExpression>
-#include <QTime>
+#include <QTimeZone>
 
+#include "foundation/DateFormatter.h"
 #include "foundation/Description.h"
 #include "foundation/Log.h"
 
@@ -41,17 +40,6 @@ void readNumber(Obs& obs, const QString& key, const QVariant& value) {
         }
 }
 
-/// Seconds east of Greenwich for "Z", "+02:00" or "-03:30:15".
-int offsetFromText(const QString& text) {
-    if (text == QLatin1String("Z"))
-        return 0;
-    const int hours = QStringView(text).mid(1, 2).toInt();
-    const int minutes = QStringView(text).mid(4, 2).toInt();
-    const int seconds = QStringView(text).mid(7, 2).toInt();
-    const int offset = (hours * 60 + minutes) * 60 + seconds;
-    return text.startsWith(QLatin1Char('-')) ? -offset : offset;
-}
-
 }  // namespace
 
 Obs::Obs(const QVariantMap& dictionary) : dict(dictionary) {
@@ -81,20 +69,13 @@ std::optional<Number> Obs::numberOrNil(const QVariant& value) {
 }
 
 std::optional<Instant> Obs::dateFromISO8601DateTimeString(const QVariant& value) {
-    static const QRegularExpression form(QRegularExpression::anchoredPattern(
-        QStringLiteral("([0-9]{4}-[0-9]{2}-[0-9]{2})T([0-9]{2}:[0-9]{2}:[0-9]{2})"
-                       "(Z|[+-](?:[01][0-9]|2[0-3]):[0-5][0-9](?::[0-5][0-9])?)")));
     if (value.typeId() != QMetaType::QString)
         return std::nullopt;
-    const QRegularExpressionMatch match = form.match(value.toString());
-    if (!match.hasMatch())
-        return std::nullopt;
-    const QDate day = QDate::fromString(match.captured(1), Qt::ISODate);
-    const QTime time = QTime::fromString(match.captured(2), QStringLiteral("HH:mm:ss"));
-    if (!day.isValid() || !time.isValid())
-        return std::nullopt;
-    const QDateTime asIfUtc(day, time, Qt::UTC);
-    return Instant::fromDateTime(asIfUtc).addingSeconds(-offsetFromText(match.captured(3)));
+    DateFormatter formatter;
+    formatter.setDateFormat(QStringLiteral("yyyy-MM-dd'T'HH:mm:ssZZZZZ"));
+    formatter.setLocale("en_US_POSIX");
+    formatter.setTimeZone(QTimeZone(0));
+    return formatter.dateFromString(value.toString());
 }
 
 std::optional<Instant> Obs::dateFromObject(const QVariant& value) {
