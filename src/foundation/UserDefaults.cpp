@@ -77,12 +77,8 @@ UserDefaults& UserDefaults::standard() {
     const QString path =
         storePath(isPlainFileName(application) ? application : QStringLiteral("zephyrix"));
     auto& store = stores[path];
-    if (!store) {
-        if (!prepareFolder(settingsFolder()))
-            logLine(QStringLiteral("settings folder %1 cannot be used: changes are not saved yet")
-                        .arg(settingsFolder()));
+    if (!store)
         store.reset(new UserDefaults(path));
-    }
     return *store;
 }
 
@@ -155,6 +151,8 @@ void UserDefaults::change(const QString& key, const QVariant& value) {
 }
 
 bool UserDefaults::synchronize() {
+    if (!d_->changes.isEmpty())
+        prepareFolder(QFileInfo(fileName()).path());
     const auto content = d_->changes.isEmpty() ? d_->file.load() : d_->file.merge(d_->changes);
     if (!content) {
         if (!d_->changes.isEmpty() && QCoreApplication::instance()) {

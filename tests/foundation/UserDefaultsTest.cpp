@@ -115,6 +115,14 @@ TEST_F(UserDefaultsTest, FilesAreTheOwnersAlone) {
         EXPECT_FALSE(file.permissions() & others) << qPrintable(file.filePath());
 }
 
+TEST_F(UserDefaultsTest, AFolderThatIsRemovedIsMadeAgain) {
+    const auto store = openSuite();
+    ASSERT_TRUE(QDir(folder_.path()).removeRecursively());
+    store->set(city, 1);
+    ASSERT_TRUE(store->synchronize());
+    EXPECT_EQ(openSuite()->integer(city), 1);
+}
+
 TEST_F(UserDefaultsTest, StandardStoreBearsTheApplicationsName) {
     int argc = 0;
     const QCoreApplication application(argc, nullptr);
