@@ -74,8 +74,8 @@ class DateFormatter::Writer {
 
 DateFormatter::DateFormatter() = default;
 DateFormatter::~DateFormatter() = default;
-DateFormatter::DateFormatter(DateFormatter&&) noexcept = default;
-DateFormatter& DateFormatter::operator=(DateFormatter&&) noexcept = default;
+DateFormatter::DateFormatter(DateFormatter&& other) noexcept = default;
+DateFormatter& DateFormatter::operator=(DateFormatter&& other) noexcept = default;
 
 void DateFormatter::setDateFormat(const QString& pattern) {
     pattern_ = pattern;
@@ -131,6 +131,8 @@ QString DateFormatter::stringFromDate(Instant date) const {
 }
 
 std::optional<Instant> DateFormatter::dateFromString(const QString& text) const {
+    if (pattern_.isEmpty())
+        return std::nullopt;
     const auto fields = parseDateFields(pattern_, text);
     if (!fields)
         return std::nullopt;

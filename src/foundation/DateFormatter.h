@@ -31,8 +31,8 @@ class DateFormatter {
     /// With the user's locale (read at the first text), the system's zone, and no form at all.
     DateFormatter();
     ~DateFormatter();
-    DateFormatter(DateFormatter&&) noexcept;
-    DateFormatter& operator=(DateFormatter&&) noexcept;
+    DateFormatter(DateFormatter&& other) noexcept;
+    DateFormatter& operator=(DateFormatter&& other) noexcept;
 
     /// The form as a pattern of Unicode's date fields ("yyyy-MM-dd"). It goes before the styles.
     void setDateFormat(const QString& pattern);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <QStringBuilder>
 #include <unicode/dcfmtsym.h>
@@ -75,8 +76,8 @@ class NumberFormatter::Decimal {
 
 NumberFormatter::NumberFormatter() : decimal_(std::make_unique<Decimal>()) {}
 NumberFormatter::~NumberFormatter() = default;
-NumberFormatter::NumberFormatter(NumberFormatter&&) noexcept = default;
-NumberFormatter& NumberFormatter::operator=(NumberFormatter&&) noexcept = default;
+NumberFormatter::NumberFormatter(NumberFormatter&& other) noexcept = default;
+NumberFormatter& NumberFormatter::operator=(NumberFormatter&& other) noexcept = default;
 
 void NumberFormatter::setMinimumFractionDigits(int digits) {
     decimal_->setMinimumFractionDigits(digits);
@@ -90,12 +91,12 @@ void NumberFormatter::setMinimumIntegerDigits(int digits) {
     decimal_->setMinimumIntegerDigits(digits);
 }
 
-void NumberFormatter::setPositivePrefix(const QString& prefix) {
-    positivePrefix_ = prefix;
+void NumberFormatter::setPositivePrefix(QString prefix) {
+    positivePrefix_ = std::move(prefix);
 }
 
-void NumberFormatter::setPositiveSuffix(const QString& suffix) {
-    positiveSuffix_ = suffix;
+void NumberFormatter::setPositiveSuffix(QString suffix) {
+    positiveSuffix_ = std::move(suffix);
 }
 
 void NumberFormatter::setPaddingCharacter(QChar character) {

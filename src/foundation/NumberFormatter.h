@@ -21,8 +21,8 @@ class NumberFormatter {
     /// Whole numbers with at least one integer digit, until told otherwise.
     NumberFormatter();
     ~NumberFormatter();
-    NumberFormatter(NumberFormatter&&) noexcept;
-    NumberFormatter& operator=(NumberFormatter&&) noexcept;
+    NumberFormatter(NumberFormatter&& other) noexcept;
+    NumberFormatter& operator=(NumberFormatter&& other) noexcept;
 
     /// A minimum above the maximum raises the maximum, a maximum below the minimum lowers the
     /// minimum.
@@ -30,8 +30,8 @@ class NumberFormatter {
     void setMaximumFractionDigits(int digits);
     void setMinimumIntegerDigits(int digits);
 
-    void setPositivePrefix(const QString& prefix);
-    void setPositiveSuffix(const QString& suffix);
+    void setPositivePrefix(QString prefix);
+    void setPositiveSuffix(QString suffix);
 
     /// What fills a text up on the left to the format width; a blank until told otherwise.
     void setPaddingCharacter(QChar character);

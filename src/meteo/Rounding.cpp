@@ -17,7 +17,7 @@ QString wholeNumber(double value) {
     // A sign and the 309 digits of the largest double.
     std::array<char, std::numeric_limits<double>::max_exponent10 + 2> digits{};
     char* const begin = digits.data();
-    const auto end =
+    char* const end =
         std::to_chars(begin, begin + digits.size(), value, std::chars_format::fixed, 0).ptr;
     return QString::fromLatin1(begin, end - begin);
 }
