@@ -12,8 +12,8 @@ namespace zephyrix {
 
 namespace {
 
-// Radians. The short forms are deliberate: the published method (Almanac for Computers, 1990) is
-// tuned to them, and more digits would move events across a minute.
+// Radians. The method is that of the "Almanac for Computers" (U.S. Naval Observatory). The short
+// forms are deliberate: more digits would move events across a minute.
 constexpr double quarterCircle = 1.5708;
 constexpr double threeQuarterCircle = 4.71239;
 constexpr double radiansPerDegree = 0.0174533;
@@ -127,7 +127,8 @@ Instant SunCalculations::sunTimesforDate(Instant date, double longitude, double 
 
     CalendarFields fields = calendar.fields(date);
     fields.hour = static_cast<int>(hours);
-    fields.minute = static_cast<int>((hours - static_cast<double>(fields.hour)) * 60.0 + 0.5);
+    const double minutesAndAHalf = (hours - static_cast<double>(fields.hour)) * 60.0 + 0.5;
+    fields.minute = static_cast<int>(minutesAndAHalf);  // may be 60: the calendar rolls it over
     fields.second = 0;
     const Instant event = calendar.instant(fields);
     return event.addingSeconds(calendar.secondsFromGMT(event) - offset);

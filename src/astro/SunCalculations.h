@@ -38,8 +38,7 @@ class SunCalculations {
     SunCalculations() = default;
 
     /// The instant of the event on the calendar day that `date` falls on in the zone, to the whole
-    /// minute; near the date line's side of a zone it may lie on the other side of midnight.
-    /// Not-a-number for coordinates that are no numbers.
+    /// minute. Not-a-number for coordinates that are no numbers.
     [[nodiscard]] Instant sunTimesforDate(Instant date, double longitude, double latitude,
                                           int timeType, int twilight, const QTimeZone& timeZone);
     /// At the official horizon.
