@@ -3,8 +3,8 @@
 #
 #   zephyrix_artwork(<name> TABLE <file> FRAGMENTS <file> SIZE <pixels> INTO <folder>)
 #
-# fills <folder> with the PNG files of the table's images, and sets <name>_STAMP in the caller to the file
-# that says that they are up to date.
+# fills <folder> with the PNG files of the table's images, and sets <name>_STAMP in the caller to the
+# file that says that they are up to date.
 set(symbol_scripts "${CMAKE_SOURCE_DIR}/tools/symbols")
 set(symbol_arrangements "${CMAKE_SOURCE_DIR}/resources/symbols/arrangements.tsv")
 
@@ -15,7 +15,7 @@ function(zephyrix_artwork name)
     add_custom_command(
         OUTPUT "${stamp}"
         COMMAND "${CMAKE_COMMAND}" -E rm -rf "${drawings}" "${art_INTO}"
-        COMMAND Python3::Interpreter "${symbol_scripts}/compose.py"
+        COMMAND Python3::Interpreter -B "${symbol_scripts}/compose.py"
                 "${art_TABLE}" "${symbol_arrangements}" "${art_FRAGMENTS}" "${drawings}"
         COMMAND symbols-render "${drawings}" "${art_INTO}" ${art_SIZE}
         COMMAND "${CMAKE_COMMAND}" -E touch "${stamp}"

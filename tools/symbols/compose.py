@@ -3,9 +3,9 @@
 
 usage: compose.py TABLE ARRANGEMENTS FRAGMENTS OUTPUT
 
-TABLE names the images and what they are made of (scheme.tsv); FRAGMENTS is a drawing whose direct children with an
-id are the fragments and whose defs hold what they share; OUTPUT is the folder to fill. What is drawn at a scale
-keeps the weight of its lines.
+TABLE names the images and what they are made of (scheme.tsv); FRAGMENTS is a drawing whose direct
+children with an id are the fragments and whose defs hold what they share; OUTPUT is the folder to
+fill. What is drawn at a scale keeps the weight of its lines.
 """
 
 import re
@@ -59,8 +59,9 @@ def main(table, arrangements_file, fragments_file, output):
     output = Path(output)
     output.mkdir(parents=True, exist_ok=True)
     for image, parts in tables.read_art(table):
-        bare = [part for part in parts if part[0] != SHADE]
-        drawings = {image: parts} | ({f"noshadow_{image}": bare} if tables.has_noshadow(image) else {})
+        drawings = {image: parts}
+        if tables.has_noshadow(image):
+            drawings[f"noshadow_{image}"] = [part for part in parts if part[0] != SHADE]
         for name, drawn in drawings.items():
             try:
                 text = compose(drawn, shared, fragments, arrangements)
