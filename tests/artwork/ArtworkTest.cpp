@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "SymbolSet.h"
+#include "symbols/QKCompoundSymbol.h"
 #include "symbolscheme/SymbolScheme.h"
 
 using namespace zephyrix;
@@ -51,7 +52,7 @@ bool isAmber(QRgb pixel) {
 // The most of an image that a reader can tell from the ground: pixels of at least this contrast.
 int visiblePixels(const QImage& image, QRgb ground, double least) {
     return countPixels(image, [&](int, int, QRgb pixel) {
-        return contrast(over(pixel, ground), ground) >= least;
+        return qAlpha(pixel) > 0 && contrast(over(pixel, ground), ground) >= least;
     });
 }
 
@@ -157,5 +158,19 @@ TEST(Artwork, WithoutACloudOnlyItsShadeIsMissing) {
         const bool falls =
             image.value < 7000 && image.kind != "drifting-snow" && image.kind != "ice-crystals";
         EXPECT_EQ(inkOf(bare) < inkOf(shaded), falls) << image.image;
+    }
+}
+
+TEST(Artwork, ComposedSymbolsAreNotCutByTheirCanvas) {
+    QKCompoundSymbol symbols;
+    symbols.setWinscale(3);
+    for (const std::uint32_t code : everySymbolCode()) {
+        const QImage symbol = symbols.symbolForCode(Number(qint64(code)), QSizeF(80, 80));
+        const int atTheEdge = countPixels(symbol, [](int x, int y, QRgb pixel) {
+            const bool edge = x == 0 || y == 0 || x == kMasterSize - 1 || y == kMasterSize - 1;
+            return edge && qAlpha(pixel) > 24;
+        });
+        EXPECT_EQ(atTheEdge, 0) << code;
+        EXPECT_GT(inkOf(symbol), 1500.0) << code << " is hardly there";
     }
 }
