@@ -1,0 +1,122 @@
+#include "PanelOptions.h"
+
+#include <array>
+#include <cmath>
+
+#include <QCommandLineOption>
+#include <QCommandLineParser>
+#include <QTextStream>
+#include <QUrl>
+
+#include "widget/FeedRequest.h"
+
+namespace zephyrix {
+
+namespace {
+
+struct OptionRow {
+    const char* name;
+    const char* value;  // what it is called in the help; none for a switch
+    const char* help;
+};
+
+constexpr std::array options{
+    OptionRow{"window", nullptr, "a window, also where a tray could show the panel"},
+    OptionRow{"text", nullptr, "print what the panel shows, and end"},
+    OptionRow{"json", nullptr, "print what the panel shows as one JSON object, and end"},
+    OptionRow{"snapshot", "FILE.png", "write a picture of the panel, and end"},
+    OptionRow{"expanded", nullptr, "begin with the forecast"},
+    OptionRow{"width", "W", "the panel's width in points, 320 to 2000 (440)"},
+    OptionRow{"scale", "S", "the picture's pixels a point, 0.5 to 8 (the screen's)"},
+    OptionRow{"scheme", "NAME", "light or dark (the desktop's)"},
+    OptionRow{"feed", "URL", "the feed server's address, http or https"},
+    OptionRow{"help", nullptr, "this text"},
+    OptionRow{"version", nullptr, "the version"},
+};
+
+void declare(QCommandLineParser& parser) {
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    for (const OptionRow& row : options)
+        parser.addOption(QCommandLineOption(QLatin1String(row.name), QLatin1String(row.help),
+                                            QLatin1String(row.value ? row.value : "")));
+}
+
+double numberIn(const QCommandLineParser& parser, const QString& name, double least, double most) {
+    bool isNumber = false;
+    const double value = parser.value(name).toDouble(&isNumber);
+    if (!isNumber || !(value >= least && value <= most))
+        throw PanelOptions::Error(QStringLiteral("--%1 takes a number from %2 to %3, not \"%4\"")
+                                      .arg(name)
+                                      .arg(least)
+                                      .arg(most)
+                                      .arg(parser.value(name)));
+    return value;
+}
+
+PanelOptions::Scheme schemeNamed(const QString& name) {
+    if (name == QLatin1String("light"))
+        return PanelOptions::Scheme::Light;
+    if (name == QLatin1String("dark"))
+        return PanelOptions::Scheme::Dark;
+    throw PanelOptions::Error(QStringLiteral("--scheme is light or dark, not \"%1\"").arg(name));
+}
+
+QString feedAddress(const QString& given) {
+    const QString address = given.endsWith(QLatin1Char('/')) ? given : given + QLatin1Char('/');
+    if (!FeedRequest::isFeedAddress(QUrl(address, QUrl::StrictMode)))
+        throw PanelOptions::Error(
+            QStringLiteral("--feed takes an http or https address, not \"%1\"").arg(given));
+    return address;
+}
+
+}  // namespace
+
+PanelOptions PanelOptions::parse(const QStringList& arguments) {
+    QCommandLineParser parser;
+    declare(parser);
+    if (!parser.parse(arguments))
+        throw Error(parser.errorText());
+    if (!parser.positionalArguments().isEmpty())
+        throw Error(
+            QStringLiteral("what is \"%1\"?").arg(parser.positionalArguments().constFirst()));
+    const auto isSet = [&](const char* name) { return parser.isSet(QLatin1String(name)); };
+    PanelOptions asked;
+    asked.help = isSet("help");
+    asked.version = isSet("version");
+    asked.window = isSet("window");
+    asked.text = isSet("text");
+    asked.json = isSet("json");
+    asked.expanded = isSet("expanded");
+    if (asked.text && asked.json)
+        throw Error(QStringLiteral("--text and --json cannot be printed together"));
+    if (isSet("snapshot"))
+        asked.snapshot = parser.value(QStringLiteral("snapshot"));
+    if (isSet("width"))
+        asked.width = std::round(numberIn(parser, QStringLiteral("width"), 320, 2000));
+    if (isSet("scale"))
+        asked.scale = numberIn(parser, QStringLiteral("scale"), 0.5, 8);
+    if (isSet("scheme"))
+        asked.scheme = schemeNamed(parser.value(QStringLiteral("scheme")));
+    if (isSet("feed"))
+        asked.feed = feedAddress(parser.value(QStringLiteral("feed")));
+    return asked;
+}
+
+QString PanelOptions::helpText() {
+    QString text;
+    QTextStream out(&text);
+    out << "Usage: zephyrix-panel [OPTIONS]\n\n"
+           "Shows the weather of the place that was chosen with \"zephyrix place\".\n\nOptions:\n";
+    for (const OptionRow& row : options) {
+        const QString name = QStringLiteral("--%1 %2").arg(
+            QLatin1String(row.name), QLatin1String(row.value ? row.value : ""));
+        out << "  " << name.leftJustified(22) << row.help << '\n';
+    }
+    out << "\nWithout --feed, and without \"feedServer\" in its settings, the panel starts a feed "
+           "of its\n"
+           "own with demonstration weather when it needs one.\n\n"
+           "Exit status: 0 done, 1 could not be done, 2 wrong options.\n";
+    return text;
+}
+
+}  // namespace zephyrix

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+
+#include <QString>
+#include <QStringList>
+
+namespace zephyrix {
+
+/// What the command line of `zephyrix-panel` asks for.
+struct PanelOptions {
+    enum class Scheme : std::uint8_t { Desktop, Light, Dark };
+
+    bool help = false;
+    bool version = false;
+    bool window = false;              // a window also where there is a tray
+    bool text = false;                // print what the rows show, for people
+    bool json = false;                // the same for programs
+    bool expanded = false;            // begin with the forecast row
+    std::optional<QString> snapshot;  // the picture file to write
+    double width = 440.0;             // of the panel, in points
+    std::optional<double> scale;      // device pixels a point; the screen's unless given
+    Scheme scheme = Scheme::Desktop;
+    QString feed;  // the feed server's base address, ends with "/"; empty when not given
+
+    /// Whether the panel reports and ends, without appearing on a screen.
+    [[nodiscard]] bool reportsOnly() const noexcept { return text || json || snapshot; }
+
+    /// Raised by parse(): one line for the person who typed it.
+    class Error : public std::runtime_error {
+      public:
+        explicit Error(const QString& text) : std::runtime_error(text.toStdString()) {}
+        [[nodiscard]] QString text() const { return QString::fromUtf8(what()); }
+    };
+
+    /// From the arguments, the program's name first. Throws Error for an unknown option, a missing
+    /// value, a value out of range or an address that no feed can have.
+    [[nodiscard]] static PanelOptions parse(const QStringList& arguments);
+    [[nodiscard]] static QString helpText();
+};
+
+}  // namespace zephyrix

@@ -1,0 +1,72 @@
+#include "PanelView.h"
+
+#include <QResizeEvent>
+
+#include "RowReport.h"
+#include "foundation/Screen.h"
+
+namespace zephyrix {
+
+namespace {
+
+// What the desktop would like to keep free, in points; the panel answers what it takes of it.
+constexpr QMarginsF proposedMargins(16.0, 0.0, 0.0, 16.0);
+constexpr int sourceHeight = 20;  // points
+constexpr int sourceInset = 12;   // points on each side
+
+}  // namespace
+
+PanelView::PanelView(TodayViewController& controller)
+    : controller_(controller), source_(new Label(this)) {
+    controller_.tableView()->setParent(this);
+    source_->setTextStyle(Theme::TextStyle::Unit);
+    source_->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    connect(controller_.tableView(), &TableView::contentHeightChanged, this, [this] {
+        place();
+        Q_EMIT panelHeightChanged();
+    });
+    connect(&controller_, &TodayViewController::refreshed, this, &PanelView::showSource);
+    showSource();
+}
+
+int PanelView::panelHeight() const {
+    const QMarginsF margins =
+        controller_.widgetMarginInsetsForProposedMarginInsets(proposedMargins);
+    return qRound(margins.top() + controller_.tableView()->contentHeight() + margins.bottom()) +
+           (source_->isVisibleTo(this) ? sourceHeight : 0);
+}
+
+void PanelView::layOut(int width, double scale) {
+    Screen::setMain(QRectF(0.0, 0.0, width, panelHeight()), scale);
+    controller_.tableView()->resize(width, controller_.tableView()->height());
+    controller_.tableView()->layoutIfNeeded();
+    resize(width, panelHeight());
+    place();
+    controller_.tableView()->layoutIfNeeded();
+}
+
+void PanelView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    Screen::setMain(QRectF(rect()), Screen::main().scale());
+    place();
+}
+
+void PanelView::place() {
+    const QMargins margins =
+        controller_.widgetMarginInsetsForProposedMarginInsets(proposedMargins).toMargins();
+    const QRect inside = rect().marginsRemoved(margins);
+    const int tableHeight = qRound(controller_.tableView()->contentHeight());
+    controller_.tableView()->setGeometry(inside.x(), inside.y(), inside.width(), tableHeight);
+    source_->setGeometry(inside.x() + sourceInset, inside.y() + tableHeight,
+                         inside.width() - 2 * sourceInset, sourceHeight);
+}
+
+void PanelView::showSource() {
+    const QString source = RowReport::source(controller_);
+    source_->setText(source);
+    source_->setVisible(!source.isEmpty());
+    place();
+    Q_EMIT panelHeightChanged();
+}
+
+}  // namespace zephyrix

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QWidget>
+
+#include "ui/Label.h"
+#include "widget/TodayViewController.h"
+
+namespace zephyrix {
+
+/// The panel as it is put into a window or a picture: the controller's table and, below it, who the
+/// weather comes from. It tells the Screen its own size before it lays out.
+class PanelView : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// Loads the controller's view. The controller must outlive it.
+    explicit PanelView(TodayViewController& controller);
+
+    /// Points, for the panel's present state; while a row fades it moves to its new value.
+    [[nodiscard]] int panelHeight() const;
+    /// Takes this width and the panel's own height, and lays everything out, now.
+    void layOut(int width, double scale);
+
+  Q_SIGNALS:
+    void panelHeightChanged();
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void showSource();
+    void place();
+
+    TodayViewController& controller_;
+    Label* source_;
+};
+
+}  // namespace zephyrix

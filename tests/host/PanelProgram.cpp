@@ -1,0 +1,50 @@
+#include "PanelProgram.h"
+
+#include <QJsonDocument>
+#include <QProcessEnvironment>
+#include <gtest/gtest.h>
+
+#include "foundation/UserDefaults.h"
+#include "model/LocationResult.h"
+#include "support/LoopbackServer.h"
+#include "support/TestHome.h"
+
+namespace zephyrix::testing {
+
+PanelProgram::PanelProgram() : home_(freshFolder()) {
+    qputenv("XDG_CONFIG_HOME", (home_ + QStringLiteral("/config")).toUtf8());
+}
+
+QJsonObject PanelProgram::Result::json() const {
+    return QJsonDocument::fromJson(out).object();
+}
+
+void PanelProgram::start(QProcess& process, const QStringList& arguments) const {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CACHE_HOME"), home_ + QStringLiteral("/cache"));
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(PROGRAM_DIR "/zephyrix-panel"), arguments);
+}
+
+PanelProgram::Result PanelProgram::run(const QStringList& arguments) {
+    QProcess process;
+    start(process, arguments);
+    EXPECT_TRUE(waitUntil([&] { return process.state() == QProcess::NotRunning; }));
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+void PanelProgram::choosePlace() const {
+    UserDefaults::suite(QStringLiteral("group.Zephyrix"))
+        ->set(QStringLiteral("location"), LocationResult::defaultSearchResult().asDict());
+}
+
+QVariant PanelProgram::setting(const QString& key) const {
+    return UserDefaults::suite(QStringLiteral("zephyrix-panel"))->object(key);
+}
+
+void PanelProgram::setSetting(const QString& key, const QVariant& value) const {
+    UserDefaults::suite(QStringLiteral("zephyrix-panel"))->set(key, value);
+}
+
+}  // namespace zephyrix::testing

@@ -1,0 +1,200 @@
+#include <csignal>
+
+#include <QDir>
+#include <QImage>
+#include <QJsonArray>
+#include <QRegularExpression>
+#include <QTcpSocket>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "PanelProgram.h"
+#include "foundation/Clock.h"
+#include "support/Documents.h"
+#include "support/LoopbackServer.h"
+
+namespace zephyrix {
+namespace {
+
+using namespace zephyrix::testing;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+const QString documentKey = QStringLiteral("lastWeatherData");
+
+class PanelProgramTest : public ::testing::Test {
+  protected:
+    PanelProgram::Result run(QStringList arguments) {
+        arguments << QStringLiteral("--feed") << server_.baseAddress();
+        return panel_.run(arguments);
+    }
+    static QString temperature(const PanelProgram::Result& result) {
+        return result.json()[QLatin1String("rows")][0][QLatin1String("temperature")].toString();
+    }
+
+    PanelProgram panel_;
+    LoopbackServer server_{answerBody(feedDocument(21.0, Clock::now()))};
+};
+
+TEST_F(PanelProgramTest, WithoutAPlaceItAsksForOne) {
+    const auto result = run({QStringLiteral("--text")});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.out, "Please open Zephyrix to activate the widget.\n");
+    EXPECT_TRUE(server_.requestLines().isEmpty());
+}
+
+TEST_F(PanelProgramTest, ShowsTheFetchedWeatherAndASecondStartAsksForNothing) {
+    panel_.choosePlace();
+    const auto first = run({QStringLiteral("--json"), QStringLiteral("--expanded")});
+    EXPECT_EQ(first.exitCode, 0) << first.err.toStdString();
+    const QJsonObject report = first.json();
+    EXPECT_EQ(report[QLatin1String("source")], QStringLiteral("a test"));
+    const QJsonValue row = report[QLatin1String("rows")][0];
+    EXPECT_EQ(row[QLatin1String("place")], QStringLiteral("Berlin"));
+    EXPECT_THAT(temperature(first).toStdString(), HasSubstr("21"));
+    EXPECT_EQ(row[QLatin1String("wind")][QLatin1String("direction")], 240);
+    const QJsonArray days = report[QLatin1String("rows")][1][QLatin1String("days")].toArray();
+    ASSERT_EQ(days.size(), 5) << "440 points wide";
+    EXPECT_THAT(days[0][QLatin1String("high")].toString().toStdString(), HasSubstr("10"));
+    EXPECT_EQ(server_.requestLines().size(), 1);
+
+    const auto second = run({QStringLiteral("--json")});
+    EXPECT_EQ(temperature(second), temperature(first));
+    EXPECT_EQ(second.json()[QLatin1String("rows")].toArray().size(), 1) << "--expanded is not kept";
+    EXPECT_EQ(server_.requestLines().size(), 1);
+
+    QVariantMap document = panel_.setting(documentKey).toMap();
+    document.insert(QStringLiteral("insertDtg"), Clock::now().addingSeconds(-601).toDateTime());
+    panel_.setSetting(documentKey, document);
+    run({QStringLiteral("--json")});
+    EXPECT_EQ(server_.requestLines().size(), 2);
+}
+
+TEST_F(PanelProgramTest, WhileTheFeedIsAwayItShowsTheOldDocument) {
+    panel_.choosePlace();
+    run({QStringLiteral("--json")});
+    QVariantMap document = panel_.setting(documentKey).toMap();
+    document.insert(QStringLiteral("insertDtg"), Clock::now().addingSeconds(-9999).toDateTime());
+    panel_.setSetting(documentKey, document);
+    const QVariant stored = panel_.setting(documentKey);
+    server_.refuse();
+    const auto result = run({QStringLiteral("--text")});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_THAT(result.out.toStdString(), HasSubstr("21"));
+    EXPECT_THAT(result.err.toStdString(), HasSubstr("Transport error 1"));
+    EXPECT_EQ(panel_.setting(documentKey), stored);
+}
+
+TEST_F(PanelProgramTest, FeedServerOfTheSettingsIsUsed) {
+    panel_.choosePlace();
+    panel_.setSetting(QStringLiteral("feedServer"), server_.baseAddress().chopped(1));
+    panel_.run({QStringLiteral("--text")});
+    EXPECT_EQ(server_.requestLines().size(), 1);
+    panel_.setSetting(documentKey, {});
+    panel_.setSetting(QStringLiteral("feedServer"), QStringLiteral("ftp://127.0.0.1/"));
+    EXPECT_THAT(panel_.run({QStringLiteral("--text")}).err.toStdString(), HasSubstr("QK error -1"));
+}
+
+TEST_F(PanelProgramTest, DemonstrationWeatherIsCalledThat) {
+    panel_.choosePlace();
+    const auto result = panel_.run({QStringLiteral("--text")});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_THAT(result.out.toLower().toStdString(), HasSubstr("demonstration"));
+    EXPECT_THAT(result.err.toStdString(), HasSubstr("demonstration weather"));
+}
+
+TEST_F(PanelProgramTest, DocumentThatStopsTheProcessDoesSoOnce) {
+    panel_.choosePlace();
+    const QVariantMap bad{{QStringLiteral("uid"), 18228265}};
+    panel_.setSetting(documentKey, bad);
+    const auto first = run({QStringLiteral("--text")});
+    EXPECT_EQ(first.exitCode, -1);
+    EXPECT_THAT(first.err.toStdString(), HasSubstr("fatal error: "));
+
+    const auto second = run({QStringLiteral("--json")});
+    EXPECT_EQ(second.exitCode, 0) << second.err.toStdString();
+    EXPECT_THAT(second.err.toStdString(), HasSubstr("lastWeatherData.rejected"));
+    EXPECT_THAT(temperature(second).toStdString(), HasSubstr("21"));
+    EXPECT_EQ(panel_.setting(QStringLiteral("lastWeatherData.rejected")), bad);
+}
+
+TEST_F(PanelProgramTest, PictureHasTheSizeThatWasAskedFor) {
+    panel_.choosePlace();
+    const QString file = panel_.home() + QStringLiteral("/panel.png");
+    const auto result =
+        run({QStringLiteral("--snapshot"), file, QStringLiteral("--width"), QStringLiteral("360"),
+             QStringLiteral("--scale"), QStringLiteral("1.5"), QStringLiteral("--expanded")});
+    EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
+    const QImage picture(file);
+    EXPECT_EQ(picture.width(), 540);
+    EXPECT_GE(picture.height(), qRound(1.5 * (110 + 104 + 36)));
+    EXPECT_EQ(run({QStringLiteral("--snapshot"), QStringLiteral("/nowhere/p.png")}).exitCode, 1);
+}
+
+TEST_F(PanelProgramTest, CommandLineAloneNeedsNothing) {
+    EXPECT_THAT(panel_.run({QStringLiteral("--help")}).out.toStdString(), HasSubstr("--snapshot"));
+    EXPECT_THAT(panel_.run({QStringLiteral("--version")}).out.toStdString(),
+                HasSubstr("zephyrix-panel "));
+    const auto bad = panel_.run({QStringLiteral("--wide")});
+    EXPECT_EQ(bad.exitCode, 2);
+    EXPECT_THAT(bad.err.toStdString(), HasSubstr("wide"));
+    EXPECT_FALSE(QDir(panel_.home() + QStringLiteral("/config")).exists()) << "nothing is written";
+}
+
+class PanelWindowTest : public PanelProgramTest {
+  protected:
+    /// A window without a screen that anyone sees, when its first fetch has begun.
+    void open(const QStringList& arguments) {
+        panel_.start(process_, arguments);
+        QObject::connect(&process_, &QProcess::readyReadStandardError, &process_,
+                         [this] { log_ += process_.readAllStandardError(); });
+        EXPECT_TRUE(waitUntil([this] { return log_.contains("age of the weather data"); }));
+    }
+    void expectEnd(int signal) {
+        ::kill(static_cast<pid_t>(process_.processId()), signal);
+        ASSERT_TRUE(waitUntil([this] { return process_.state() == QProcess::NotRunning; }));
+    }
+
+    QProcess process_;
+    QByteArray log_;
+};
+
+TEST_F(PanelWindowTest, SignalEndsItInOrderAndWritesNoDocument) {
+    panel_.choosePlace();
+    server_.answerWith(answerNothing());
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        panel_.setSetting(QStringLiteral("showingAll"), {});
+        open({QStringLiteral("--window"), QStringLiteral("--expanded"), QStringLiteral("--feed"),
+              server_.baseAddress()});
+        expectEnd(signal);
+        EXPECT_EQ(process_.exitStatus(), QProcess::NormalExit) << signal;
+        EXPECT_EQ(process_.exitCode(), 0) << signal;
+        EXPECT_EQ(panel_.setting(QStringLiteral("showingAll")), true) << signal;
+        EXPECT_FALSE(panel_.setting(documentKey).isValid()) << signal;
+        log_.clear();
+    }
+}
+
+TEST_F(PanelWindowTest, ItsFeedEndsWithItHoweverItEnds) {
+    panel_.choosePlace();
+    for (const int signal : {SIGTERM, SIGKILL}) {
+        panel_.setSetting(documentKey, {});
+        open({QStringLiteral("--window")});
+        static const QRegularExpression address(QStringLiteral("127\\.0\\.0\\.1:([0-9]+)"));
+        QRegularExpressionMatch match;
+        ASSERT_TRUE(waitUntil([&] {
+            match = address.match(QString::fromUtf8(log_));
+            return match.hasMatch();
+        }));
+        expectEnd(signal);
+        EXPECT_TRUE(waitUntil([&] {
+            QTcpSocket socket;
+            socket.connectToHost(QStringLiteral("127.0.0.1"), match.captured(1).toUShort());
+            return !socket.waitForConnected();
+        })) << signal;
+        log_.clear();
+    }
+}
+
+}  // namespace
+}  // namespace zephyrix
