@@ -251,12 +251,12 @@
     <message>
         <source>High</source>
         <extracomment>A class of the UV index.</extracomment>
-        <translation>Élevé</translation>
+        <translation>Fort</translation>
     </message>
     <message>
         <source>Very high</source>
         <extracomment>A class of the UV index.</extracomment>
-        <translation>Très élevé</translation>
+        <translation>Très fort</translation>
     </message>
     <message>
         <source>Extreme</source>

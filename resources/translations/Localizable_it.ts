@@ -106,7 +106,7 @@
     <message>
         <source>kilometres per hour</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
-        <translation>chilometri all&apos;ora</translation>
+        <translation>chilometri all’ora</translation>
     </message>
     <message>
         <source>metres per second</source>
@@ -116,7 +116,7 @@
     <message>
         <source>miles per hour</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
-        <translation>miglia all&apos;ora</translation>
+        <translation>miglia all’ora</translation>
     </message>
     <message>
         <source>hectopascals</source>

@@ -231,7 +231,7 @@
     <message>
         <source>Rot.</source>
         <extracomment>Stands in the place of a wind direction: the wind is variable. Short.</extracomment>
-        <translation>ver.</translation>
+        <translation>var.</translation>
     </message>
     <message>
         <source>-</source>

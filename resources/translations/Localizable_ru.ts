@@ -281,12 +281,12 @@
     <message>
         <source>Show more...</source>
         <extracomment>Button below the rows.</extracomment>
-        <translation>Показать больше...</translation>
+        <translation>Показать ещё...</translation>
     </message>
     <message>
         <source>Show less...</source>
         <extracomment>Button below the rows.</extracomment>
-        <translation>Показать меньше...</translation>
+        <translation>Свернуть...</translation>
     </message>
     <message>
         <source>Please open Zephyrix to activate the widget.</source>

@@ -271,7 +271,7 @@
     <message>
         <source>Gusts</source>
         <extracomment>Caption of the speed of gusts. Little room.</extracomment>
-        <translation>Byar</translation>
+        <translation>Byvind</translation>
     </message>
     <message>
         <source>Wind:%d degrees %@</source>
