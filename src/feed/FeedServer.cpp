@@ -21,7 +21,6 @@ using httplib::Response;
 
 constexpr const char* feedPath = "/zephyrix/WeatherFeed.php";
 constexpr const char* jsonType = "application/json";
-constexpr std::size_t mostRequestBytes = 64 * 1024;
 
 void refuse(Response& response, int status, const char* reason) {
     const QJsonObject body{{QStringLiteral("error"), QString::fromUtf8(reason)}};
@@ -64,8 +63,8 @@ class FeedServer::Private {
         server.set_socket_options(reuseOnlyFreedAddress);
         // A connection is for one request: an idle one would hold a thread.
         server.set_keep_alive_max_count(1);
-        server.set_payload_max_length(mostRequestBytes);
-        // Before the library's own routing, whose patterns recurse once a character of the path.
+        // Before the library reads a body, and instead of its routing, whose patterns recurse once
+        // a character of the path.
         server.set_pre_routing_handler([this](const Request& request, Response& response) {
             answer(request, response);
             return httplib::Server::HandlerResponse::Handled;
