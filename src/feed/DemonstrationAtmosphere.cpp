@@ -27,7 +27,7 @@ double roundedToTenth(double value) {
     return std::round(value * 10.0) / 10.0;
 }
 
-/// 0 at night, 1 in the afternoon at 15 h by the sun: the daily wave, from -1 to 1.
+/// The daily wave: -1 in the small hours, 1 in the afternoon at 15 h by the sun.
 double dailyWaveAt(double longitude, double hours) {
     const double solarHour = hours + longitude / 15.0;
     return std::cos(2.0 * std::numbers::pi * (solarHour - 15.0) / 24.0);
@@ -68,8 +68,9 @@ constexpr int squalls = 18;
 constexpr int skyUnchanged = 2;
 
 int codeFor(Falling what, double millimetresPerHour) {
-    const auto strength = static_cast<std::size_t>((millimetresPerHour >= moderateFrom ? 1 : 0) +
-                                                   (millimetresPerHour >= heavyFrom ? 1 : 0));
+    const std::size_t strength = millimetresPerHour >= heavyFrom      ? 2
+                                 : millimetresPerHour >= moderateFrom ? 1
+                                                                      : 0;
     const auto* const row =
         std::find_if(fallingCodes.begin(), fallingCodes.end(),
                      [what](const FallingCodes& codes) { return codes.what == what; });

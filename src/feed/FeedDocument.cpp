@@ -29,7 +29,7 @@ QString timeText(Instant time, const QTimeZone& zone) {
     const QDateTime utc = time.toDateTime();
     const int minutes = zone.offsetFromUtc(utc) / 60;
     return QStringLiteral("%1%2%3:%4")
-        .arg(utc.addSecs(60 * minutes).toString(QStringLiteral("yyyy-MM-dd'T'HH:mm:ss")),
+        .arg(utc.addSecs(60LL * minutes).toString(QStringLiteral("yyyy-MM-dd'T'HH:mm:ss")),
              minutes < 0 ? QStringLiteral("-") : QStringLiteral("+"))
         .arg(std::abs(minutes) / 60, 2, 10, QLatin1Char('0'))
         .arg(std::abs(minutes) % 60, 2, 10, QLatin1Char('0'));

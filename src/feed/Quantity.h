@@ -14,6 +14,8 @@ class Quantity {
   public:
     explicit constexpr Quantity(double value) noexcept : value_(value) {}
     [[nodiscard]] constexpr double value() const noexcept { return value_; }
+    // clang-tidy 14 takes the 0 inside the defaulted comparison for a pointer.
+    // NOLINTNEXTLINE(modernize-use-nullptr)
     friend constexpr auto operator<=>(Quantity, Quantity) noexcept = default;
 
   private:

@@ -119,14 +119,14 @@ TEST(FeedDocument, InTheMissingScenarioEveryNumberIsMissing) {
                                                  .weatherAt({1, 1.0, 2.0, zone("UTC")}, noon));
     int numbers = 0;
     const auto expectMissing = [&](const QJsonObject& object) {
-        for (const QJsonValue& value : object)
+        for (const QJsonValue value : object)
             if (!value.isString()) {
                 EXPECT_EQ(value, QJsonValue(-9999));
                 ++numbers;
             }
     };
     expectMissing(lastObsOf(document));
-    for (const QJsonValue& day : daysOf(document))
+    for (const QJsonValue day : daysOf(document))
         expectMissing(day.toObject());
     EXPECT_EQ(numbers, 11 + 6 * 3);
 }
