@@ -17,24 +17,6 @@ icu::UnicodeString toIcu(const QString& text) {
     return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<int32_t>(text.size())};
 }
 
-std::int64_t offsetAt(const QTimeZone& zone, std::int64_t secondsSince1970) {
-    return zone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(secondsSince1970, Qt::UTC));
-}
-
-/// The instant at which the clocks of the zone show a local time, given as seconds since
-/// 1970-01-01 00:00:00 of that clock. The offset in force a day before decides in gaps and
-/// overlaps.
-std::int64_t fromLocalSeconds(const QTimeZone& zone, std::int64_t local) {
-    constexpr std::int64_t day = 86400;
-    const std::int64_t byOffsetBefore = local - offsetAt(zone, local - day);
-    if (local - offsetAt(zone, byOffsetBefore) == byOffsetBefore)
-        return byOffsetBefore;
-    const std::int64_t byOffsetAfter = local - offsetAt(zone, local + day);
-    if (local - offsetAt(zone, byOffsetAfter) == byOffsetAfter)
-        return byOffsetAfter;
-    return byOffsetBefore;
-}
-
 }  // namespace
 
 /// ICU's format for one pattern or pair of styles in one locale.
@@ -101,8 +83,8 @@ void DateFormatter::setTimeZone(const std::optional<QTimeZone>& zone) {
     zone_ = zone;
 }
 
-QTimeZone DateFormatter::zoneInForce() const {
-    return zone_ && zone_->isValid() ? *zone_ : QTimeZone::systemTimeZone();
+GregorianCalendar DateFormatter::calendarInForce() const {
+    return GregorianCalendar(zone_.value_or(QTimeZone()));
 }
 
 std::unique_ptr<DateFormatter::Writer> DateFormatter::makeWriter() const {
@@ -126,8 +108,7 @@ QString DateFormatter::stringFromDate(Instant date) const {
         return {};
     if (writer_ == nullptr)
         writer_ = makeWriter();
-    const auto wholeSeconds = static_cast<std::int64_t>(std::floor(seconds));
-    return writer_->text(seconds, static_cast<int>(offsetAt(zoneInForce(), wholeSeconds)));
+    return writer_->text(seconds, calendarInForce().secondsFromGMT(date));
 }
 
 std::optional<Instant> DateFormatter::dateFromString(const QString& text) const {
@@ -136,9 +117,11 @@ std::optional<Instant> DateFormatter::dateFromString(const QString& text) const 
     const auto fields = parseDateFields(pattern_, text);
     if (!fields)
         return std::nullopt;
-    const std::int64_t local = fields->secondsOfTheClock();
-    return Instant::fromSecondsSince1970(static_cast<double>(
-        fields->offset ? local - *fields->offset : fromLocalSeconds(zoneInForce(), local)));
+    if (!fields->offset)
+        return calendarInForce().instant(fields->wall);
+    return GregorianCalendar(QTimeZone::utc())
+        .instant(fields->wall)
+        .addingSeconds(-*fields->offset);
 }
 
 }  // namespace zephyrix

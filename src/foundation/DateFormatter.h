@@ -8,6 +8,7 @@
 #include <QString>
 #include <QTimeZone>
 
+#include "GregorianCalendar.h"
 #include "Instant.h"
 
 namespace zephyrix {
@@ -61,7 +62,7 @@ class DateFormatter {
 
   private:
     class Writer;
-    [[nodiscard]] QTimeZone zoneInForce() const;
+    [[nodiscard]] GregorianCalendar calendarInForce() const;
     [[nodiscard]] std::unique_ptr<Writer> makeWriter() const;
 
     QString pattern_;

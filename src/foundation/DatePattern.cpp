@@ -14,16 +14,16 @@ struct NumericField {
     QStringView letters;
     int least;
     int most;
-    int DateFields::*value;
+    std::int64_t CalendarFields::*value;
 };
 
 constexpr std::array numericFields{
-    NumericField{u"yyyy", 1, 9999, &DateFields::year},
-    NumericField{u"MM", 1, 12, &DateFields::month},
-    NumericField{u"dd", 1, 31, &DateFields::day},
-    NumericField{u"HH", 0, 23, &DateFields::hour},
-    NumericField{u"mm", 0, 59, &DateFields::minute},
-    NumericField{u"ss", 0, 59, &DateFields::second},
+    NumericField{u"yyyy", 1, 9999, &CalendarFields::year},
+    NumericField{u"MM", 1, 12, &CalendarFields::month},
+    NumericField{u"dd", 1, 31, &CalendarFields::day},
+    NumericField{u"HH", 0, 23, &CalendarFields::hour},
+    NumericField{u"mm", 0, 59, &CalendarFields::minute},
+    NumericField{u"ss", 0, 59, &CalendarFields::second},
 };
 
 constexpr QStringView offsetField = u"ZZZZZ";
@@ -97,18 +97,13 @@ bool readField(QStringView letters, TextReader& reader, DateFields& fields) {
         if (letters != field.letters)
             continue;
         const auto value = reader.number(letters.size(), field.least, field.most);
-        fields.*field.value = value.value_or(0);
+        fields.wall.*field.value = value.value_or(0);
         return value.has_value();
     }
     fatalError(QStringLiteral("a date pattern to be read has the field \"%1\"").arg(letters));
 }
 
 }  // namespace
-
-std::int64_t DateFields::secondsOfTheClock() const {
-    const std::int64_t days = QDate(1970, 1, 1).daysTo(QDate(year, month, day));
-    return ((days * 24 + hour) * 60 + minute) * 60 + second;
-}
 
 std::optional<DateFields> parseDateFields(QStringView pattern, QStringView text) {
     DateFields fields;
@@ -124,7 +119,10 @@ std::optional<DateFields> parseDateFields(QStringView pattern, QStringView text)
         else if (!(isField ? readField(piece, reader, fields) : reader.skip(c)))
             return std::nullopt;
     }
-    if (!reader.atEnd() || !QDate::isValid(fields.year, fields.month, fields.day))
+    const CalendarFields& wall = fields.wall;
+    const bool dayExists = QDate::isValid(static_cast<int>(wall.year), static_cast<int>(wall.month),
+                                          static_cast<int>(wall.day));
+    if (!reader.atEnd() || !dayExists)
         return std::nullopt;
     return fields;
 }
