@@ -149,7 +149,8 @@ QSize Label::sizeHint() const {
     const QFont font = styledFont();
     const QFontMetricsF metrics(font);
     const auto breaks = static_cast<double>(text().count(QLatin1Char('\n')));
-    return {static_cast<int>(std::ceil(widestLine(text(), font, figures()))),
+    const int gap = text().isEmpty() ? 0 : std::max(0, indent());
+    return {static_cast<int>(std::ceil(widestLine(text(), font, figures()))) + gap,
             static_cast<int>(std::ceil(metrics.height() + breaks * metrics.lineSpacing()))};
 }
 

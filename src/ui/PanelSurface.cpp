@@ -104,6 +104,24 @@ void PanelSurface::paintSurface(QPainter& painter, const QRectF& area, bool comp
                             Theme::surfaceRadius - 0.5);
 }
 
+void PanelSurface::fill(QPainter& painter, const QWidget& view, const QColor& color) {
+    const QWidget* around = view.parentWidget();
+    while (around != nullptr && qobject_cast<const PanelSurface*>(around) == nullptr)
+        around = around->parentWidget();
+    const auto* surface = qobject_cast<const PanelSurface*>(around);
+    if (surface == nullptr) {
+        painter.fillRect(view.rect(), color);
+        return;
+    }
+    QPainterPath inside;
+    inside.addRoundedRect(surface->surfaceArea().translated(-view.mapTo(surface, QPoint())),
+                          Theme::surfaceRadius, Theme::surfaceRadius);
+    QPainterPath area;
+    area.addRect(view.rect());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(area.intersected(inside), color);
+}
+
 void PanelSurface::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     paintSurface(painter, surfaceArea(), composited_);

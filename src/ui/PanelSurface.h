@@ -32,6 +32,10 @@ class PanelSurface : public QWidget {
     /// their own.
     static void paintSurface(QPainter& painter, const QRectF& area, bool composited);
 
+    /// Fills a view with a colour, but nothing outside of the surface's rounded corners when the
+    /// view lies on one.
+    static void fill(QPainter& painter, const QWidget& view, const QColor& color);
+
   protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include "FocusRing.h"
+#include "PanelSurface.h"
 #include "TextLine.h"
 #include "Theme.h"
 
@@ -26,7 +27,7 @@ QSize TextButton::sizeHint() const {
 void TextButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     if (isDown() || underMouse())
-        painter.fillRect(rect(), Theme::color(Theme::Color::HoverShade));
+        PanelSurface::fill(painter, *this, Theme::color(Theme::Color::HoverShade));
     const QFont font = Theme::font(Theme::TextStyle::Button);
     const QFontMetricsF metrics(font);
     const TextLine line(

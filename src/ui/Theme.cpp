@@ -29,14 +29,15 @@ constexpr QRgb argb(unsigned alpha, unsigned red, unsigned green, unsigned blue)
 
 constexpr std::array colorTable = {
     ColorRow{Color::PrimaryText, argb(255, 16, 22, 34), argb(255, 255, 255, 255)},
-    ColorRow{Color::SecondaryText, argb(255, 74, 82, 98), argb(255, 190, 198, 212)},
-    ColorRow{Color::SurfaceTop, argb(232, 252, 253, 255), argb(214, 30, 38, 54)},
-    ColorRow{Color::SurfaceBottom, argb(226, 244, 246, 250), argb(222, 19, 24, 35)},
+    ColorRow{Color::SecondaryText, argb(255, 74, 82, 98), argb(255, 206, 213, 224)},
+    ColorRow{Color::SurfaceTop, argb(232, 252, 253, 255), argb(220, 30, 38, 54)},
+    ColorRow{Color::SurfaceBottom, argb(226, 244, 246, 250), argb(226, 19, 24, 35)},
     ColorRow{Color::SurfaceEdge, argb(150, 255, 255, 255), argb(26, 255, 255, 255)},
     ColorRow{Color::Hairline, argb(36, 16, 22, 34), argb(34, 255, 255, 255)},
     ColorRow{Color::FocusRing, argb(255, 26, 104, 214), argb(255, 128, 184, 255)},
     ColorRow{Color::WindRing, argb(255, 16, 22, 34), argb(255, 255, 255, 255)},
     ColorRow{Color::VibrancyShade, argb(30, 16, 22, 34), argb(0, 0, 0, 0)},
+    ColorRow{Color::VibrancyContent, argb(255, 0, 0, 0), argb(64, 0, 0, 0)},
     ColorRow{Color::HoverShade, argb(12, 16, 22, 34), argb(14, 255, 255, 255)},
     ColorRow{Color::Shadow, argb(52, 10, 16, 30), argb(110, 0, 0, 0)},
 };

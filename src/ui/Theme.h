@@ -25,7 +25,8 @@ class Theme {
         Hairline,
         FocusRing,
         WindRing,
-        VibrancyShade,
+        VibrancyShade,    // below the content of a VisualEffectView
+        VibrancyContent,  // its alpha weakens that content
         HoverShade,
         Shadow,
     };

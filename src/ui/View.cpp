@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include "PanelSurface.h"
+
 namespace zephyrix {
 
 View::View(QWidget* parent) : QWidget(parent) {}
@@ -12,8 +14,12 @@ void View::setBackgroundColor(const QColor& color) {
 }
 
 void View::paintEvent(QPaintEvent* /*event*/) {
-    if (backgroundColor_.isValid() && backgroundColor_.alpha() > 0)
-        QPainter(this).fillRect(rect(), backgroundColor_);
+    if (!backgroundColor_.isValid() || backgroundColor_.alpha() == 0)
+        return;
+    const auto* around = qobject_cast<View*>(parentWidget());
+    QPainter painter(this);
+    PanelSurface::fill(painter, *this,
+                       around == nullptr ? backgroundColor_ : around->blended(backgroundColor_));
 }
 
 }  // namespace zephyrix

@@ -15,6 +15,8 @@ class View : public QWidget {
     [[nodiscard]] const QColor& backgroundColor() const noexcept { return backgroundColor_; }
     /// An invalid or fully transparent colour is "clear" and paints nothing.
     virtual void setBackgroundColor(const QColor& color);
+    /// How a view directly inside this one shows its background colour.
+    [[nodiscard]] virtual QColor blended(const QColor& content) const { return content; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
