@@ -293,5 +293,145 @@
         <extracomment>Shown in place of the weather until a place has been chosen. Zephyrix is the name of the main application.</extracomment>
         <translation>Abra Zephyrix para activar el widget.</translation>
     </message>
+    <message>
+        <source>north</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>norte</translation>
+    </message>
+    <message>
+        <source>north-north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>nornoreste</translation>
+    </message>
+    <message>
+        <source>north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>noreste</translation>
+    </message>
+    <message>
+        <source>east-north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>estenoreste</translation>
+    </message>
+    <message>
+        <source>east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>este</translation>
+    </message>
+    <message>
+        <source>east-south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>estesureste</translation>
+    </message>
+    <message>
+        <source>south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>sureste</translation>
+    </message>
+    <message>
+        <source>south-south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>sursureste</translation>
+    </message>
+    <message>
+        <source>south</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>sur</translation>
+    </message>
+    <message>
+        <source>south-south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>sursuroeste</translation>
+    </message>
+    <message>
+        <source>south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>suroeste</translation>
+    </message>
+    <message>
+        <source>west-south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>oestesuroeste</translation>
+    </message>
+    <message>
+        <source>west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>oeste</translation>
+    </message>
+    <message>
+        <source>west-north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>oestenoroeste</translation>
+    </message>
+    <message>
+        <source>north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>noroeste</translation>
+    </message>
+    <message>
+        <source>north-north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>nornoroeste</translation>
+    </message>
+    <message>
+        <source>from changing directions</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>de direcciones variables</translation>
+    </message>
+    <message>
+        <source>wind %1 %2 %3</source>
+        <extracomment>Spoken by screen readers. %1 is the direction in words or empty, %2 the speed, %3 its unit.</extracomment>
+        <translation>viento %1 %2 %3</translation>
+    </message>
+    <message>
+        <source>no wind</source>
+        <extracomment>Spoken by screen readers.</extracomment>
+        <translation>sin viento</translation>
+    </message>
+    <message>
+        <source>precipitation %1 %2</source>
+        <extracomment>Spoken by screen readers. %1 is the amount, %2 its unit.</extracomment>
+        <translation>precipitación %1 %2</translation>
+    </message>
+    <message>
+        <source>in the last hour</source>
+        <extracomment>Spoken by screen readers. Behind the amount of precipitation.</extracomment>
+        <translation>en la última hora</translation>
+    </message>
+    <message>
+        <source>in the last %1 hours</source>
+        <extracomment>Spoken by screen readers. Behind the amount of precipitation; %1 is more than one.</extracomment>
+        <translation>en las últimas %1 horas</translation>
+    </message>
+    <message>
+        <source>pressure %1 %2</source>
+        <extracomment>Spoken by screen readers. %1 is the air pressure, %2 its unit.</extracomment>
+        <translation>presión %1 %2</translation>
+    </message>
+    <message>
+        <source>observed at %1</source>
+        <extracomment>Spoken by screen readers. %1 is a clock time.</extracomment>
+        <translation>observado a las %1</translation>
+    </message>
+    <message>
+        <source>forecast for %1</source>
+        <extracomment>Spoken by screen readers. %1 is a place.</extracomment>
+        <translation>previsión para %1</translation>
+    </message>
+    <message>
+        <source>high %1</source>
+        <extracomment>Spoken by screen readers. Highest temperature of a day; %1 has number and unit.</extracomment>
+        <translation>máxima %1</translation>
+    </message>
+    <message>
+        <source>low %1</source>
+        <extracomment>Spoken by screen readers. Lowest temperature of a day; %1 has number and unit.</extracomment>
+        <translation>mínima %1</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <extracomment>Behind the time of an observation that is old; %1 is a number of hours, 2 or more. Little room: hours as a short unit.</extracomment>
+        <translation>hace %1 h</translation>
+    </message>
 </context>
 </TS>

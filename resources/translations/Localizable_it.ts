@@ -293,5 +293,145 @@
         <extracomment>Shown in place of the weather until a place has been chosen. Zephyrix is the name of the main application.</extracomment>
         <translation>Apri Zephyrix per attivare il widget.</translation>
     </message>
+    <message>
+        <source>north</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>nord</translation>
+    </message>
+    <message>
+        <source>north-north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>nord-nord-est</translation>
+    </message>
+    <message>
+        <source>north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>nord-est</translation>
+    </message>
+    <message>
+        <source>east-north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>est-nord-est</translation>
+    </message>
+    <message>
+        <source>east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>est</translation>
+    </message>
+    <message>
+        <source>east-south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>est-sud-est</translation>
+    </message>
+    <message>
+        <source>south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>sud-est</translation>
+    </message>
+    <message>
+        <source>south-south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>sud-sud-est</translation>
+    </message>
+    <message>
+        <source>south</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>sud</translation>
+    </message>
+    <message>
+        <source>south-south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>sud-sud-ovest</translation>
+    </message>
+    <message>
+        <source>south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>sud-ovest</translation>
+    </message>
+    <message>
+        <source>west-south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>ovest-sud-ovest</translation>
+    </message>
+    <message>
+        <source>west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>ovest</translation>
+    </message>
+    <message>
+        <source>west-north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>ovest-nord-ovest</translation>
+    </message>
+    <message>
+        <source>north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>nord-ovest</translation>
+    </message>
+    <message>
+        <source>north-north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>nord-nord-ovest</translation>
+    </message>
+    <message>
+        <source>from changing directions</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>da direzioni variabili</translation>
+    </message>
+    <message>
+        <source>wind %1 %2 %3</source>
+        <extracomment>Spoken by screen readers. %1 is the direction in words or empty, %2 the speed, %3 its unit.</extracomment>
+        <translation>vento %1 %2 %3</translation>
+    </message>
+    <message>
+        <source>no wind</source>
+        <extracomment>Spoken by screen readers.</extracomment>
+        <translation>assenza di vento</translation>
+    </message>
+    <message>
+        <source>precipitation %1 %2</source>
+        <extracomment>Spoken by screen readers. %1 is the amount, %2 its unit.</extracomment>
+        <translation>precipitazioni %1 %2</translation>
+    </message>
+    <message>
+        <source>in the last hour</source>
+        <extracomment>Spoken by screen readers. Behind the amount of precipitation.</extracomment>
+        <translation>nell'ultima ora</translation>
+    </message>
+    <message>
+        <source>in the last %1 hours</source>
+        <extracomment>Spoken by screen readers. Behind the amount of precipitation; %1 is more than one.</extracomment>
+        <translation>nelle ultime %1 ore</translation>
+    </message>
+    <message>
+        <source>pressure %1 %2</source>
+        <extracomment>Spoken by screen readers. %1 is the air pressure, %2 its unit.</extracomment>
+        <translation>pressione %1 %2</translation>
+    </message>
+    <message>
+        <source>observed at %1</source>
+        <extracomment>Spoken by screen readers. %1 is a clock time.</extracomment>
+        <translation>osservato alle %1</translation>
+    </message>
+    <message>
+        <source>forecast for %1</source>
+        <extracomment>Spoken by screen readers. %1 is a place.</extracomment>
+        <translation>previsioni per %1</translation>
+    </message>
+    <message>
+        <source>high %1</source>
+        <extracomment>Spoken by screen readers. Highest temperature of a day; %1 has number and unit.</extracomment>
+        <translation>massima %1</translation>
+    </message>
+    <message>
+        <source>low %1</source>
+        <extracomment>Spoken by screen readers. Lowest temperature of a day; %1 has number and unit.</extracomment>
+        <translation>minima %1</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <extracomment>Behind the time of an observation that is old; %1 is a number of hours, 2 or more. Little room: hours as a short unit.</extracomment>
+        <translation>%1 h fa</translation>
+    </message>
 </context>
 </TS>

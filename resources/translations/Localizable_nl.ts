@@ -293,5 +293,145 @@
         <extracomment>Shown in place of the weather until a place has been chosen. Zephyrix is the name of the main application.</extracomment>
         <translation>Open Zephyrix om de widget te activeren.</translation>
     </message>
+    <message>
+        <source>north</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>noord</translation>
+    </message>
+    <message>
+        <source>north-north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>noordnoordoost</translation>
+    </message>
+    <message>
+        <source>north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>noordoost</translation>
+    </message>
+    <message>
+        <source>east-north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>oostnoordoost</translation>
+    </message>
+    <message>
+        <source>east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>oost</translation>
+    </message>
+    <message>
+        <source>east-south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>oostzuidoost</translation>
+    </message>
+    <message>
+        <source>south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>zuidoost</translation>
+    </message>
+    <message>
+        <source>south-south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>zuidzuidoost</translation>
+    </message>
+    <message>
+        <source>south</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>zuid</translation>
+    </message>
+    <message>
+        <source>south-south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>zuidzuidwest</translation>
+    </message>
+    <message>
+        <source>south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>zuidwest</translation>
+    </message>
+    <message>
+        <source>west-south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>westzuidwest</translation>
+    </message>
+    <message>
+        <source>west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>west</translation>
+    </message>
+    <message>
+        <source>west-north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>westnoordwest</translation>
+    </message>
+    <message>
+        <source>north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>noordwest</translation>
+    </message>
+    <message>
+        <source>north-north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>noordnoordwest</translation>
+    </message>
+    <message>
+        <source>from changing directions</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>uit veranderlijke richtingen</translation>
+    </message>
+    <message>
+        <source>wind %1 %2 %3</source>
+        <extracomment>Spoken by screen readers. %1 is the direction in words or empty, %2 the speed, %3 its unit.</extracomment>
+        <translation>wind %1 %2 %3</translation>
+    </message>
+    <message>
+        <source>no wind</source>
+        <extracomment>Spoken by screen readers.</extracomment>
+        <translation>geen wind</translation>
+    </message>
+    <message>
+        <source>precipitation %1 %2</source>
+        <extracomment>Spoken by screen readers. %1 is the amount, %2 its unit.</extracomment>
+        <translation>neerslag %1 %2</translation>
+    </message>
+    <message>
+        <source>in the last hour</source>
+        <extracomment>Spoken by screen readers. Behind the amount of precipitation.</extracomment>
+        <translation>in het afgelopen uur</translation>
+    </message>
+    <message>
+        <source>in the last %1 hours</source>
+        <extracomment>Spoken by screen readers. Behind the amount of precipitation; %1 is more than one.</extracomment>
+        <translation>in de afgelopen %1 uur</translation>
+    </message>
+    <message>
+        <source>pressure %1 %2</source>
+        <extracomment>Spoken by screen readers. %1 is the air pressure, %2 its unit.</extracomment>
+        <translation>luchtdruk %1 %2</translation>
+    </message>
+    <message>
+        <source>observed at %1</source>
+        <extracomment>Spoken by screen readers. %1 is a clock time.</extracomment>
+        <translation>gemeten om %1</translation>
+    </message>
+    <message>
+        <source>forecast for %1</source>
+        <extracomment>Spoken by screen readers. %1 is a place.</extracomment>
+        <translation>verwachting voor %1</translation>
+    </message>
+    <message>
+        <source>high %1</source>
+        <extracomment>Spoken by screen readers. Highest temperature of a day; %1 has number and unit.</extracomment>
+        <translation>maximaal %1</translation>
+    </message>
+    <message>
+        <source>low %1</source>
+        <extracomment>Spoken by screen readers. Lowest temperature of a day; %1 has number and unit.</extracomment>
+        <translation>minimaal %1</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <extracomment>Behind the time of an observation that is old; %1 is a number of hours, 2 or more. Little room: hours as a short unit.</extracomment>
+        <translation>%1 u geleden</translation>
+    </message>
 </context>
 </TS>

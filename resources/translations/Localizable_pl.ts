@@ -293,5 +293,145 @@
         <extracomment>Shown in place of the weather until a place has been chosen. Zephyrix is the name of the main application.</extracomment>
         <translation>Otwórz Zephyrix, aby aktywować widżet.</translation>
     </message>
+    <message>
+        <source>north</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>północny</translation>
+    </message>
+    <message>
+        <source>north-north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>północno-północno-wschodni</translation>
+    </message>
+    <message>
+        <source>north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>północno-wschodni</translation>
+    </message>
+    <message>
+        <source>east-north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>wschodnio-północno-wschodni</translation>
+    </message>
+    <message>
+        <source>east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>wschodni</translation>
+    </message>
+    <message>
+        <source>east-south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>wschodnio-południowo-wschodni</translation>
+    </message>
+    <message>
+        <source>south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>południowo-wschodni</translation>
+    </message>
+    <message>
+        <source>south-south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>południowo-południowo-wschodni</translation>
+    </message>
+    <message>
+        <source>south</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>południowy</translation>
+    </message>
+    <message>
+        <source>south-south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>południowo-południowo-zachodni</translation>
+    </message>
+    <message>
+        <source>south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>południowo-zachodni</translation>
+    </message>
+    <message>
+        <source>west-south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>zachodnio-południowo-zachodni</translation>
+    </message>
+    <message>
+        <source>west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>zachodni</translation>
+    </message>
+    <message>
+        <source>west-north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>zachodnio-północno-zachodni</translation>
+    </message>
+    <message>
+        <source>north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>północno-zachodni</translation>
+    </message>
+    <message>
+        <source>north-north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>północno-północno-zachodni</translation>
+    </message>
+    <message>
+        <source>from changing directions</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>zmienny</translation>
+    </message>
+    <message>
+        <source>wind %1 %2 %3</source>
+        <extracomment>Spoken by screen readers. %1 is the direction in words or empty, %2 the speed, %3 its unit.</extracomment>
+        <translation>wiatr %1 %2 %3</translation>
+    </message>
+    <message>
+        <source>no wind</source>
+        <extracomment>Spoken by screen readers.</extracomment>
+        <translation>bezwietrznie</translation>
+    </message>
+    <message>
+        <source>precipitation %1 %2</source>
+        <extracomment>Spoken by screen readers. %1 is the amount, %2 its unit.</extracomment>
+        <translation>opady %1 %2</translation>
+    </message>
+    <message>
+        <source>in the last hour</source>
+        <extracomment>Spoken by screen readers. Behind the amount of precipitation.</extracomment>
+        <translation>w ciągu ostatniej godziny</translation>
+    </message>
+    <message>
+        <source>in the last %1 hours</source>
+        <extracomment>Spoken by screen readers. Behind the amount of precipitation; %1 is more than one.</extracomment>
+        <translation>w ciągu ostatnich %1 godzin</translation>
+    </message>
+    <message>
+        <source>pressure %1 %2</source>
+        <extracomment>Spoken by screen readers. %1 is the air pressure, %2 its unit.</extracomment>
+        <translation>ciśnienie %1 %2</translation>
+    </message>
+    <message>
+        <source>observed at %1</source>
+        <extracomment>Spoken by screen readers. %1 is a clock time.</extracomment>
+        <translation>pomiar o %1</translation>
+    </message>
+    <message>
+        <source>forecast for %1</source>
+        <extracomment>Spoken by screen readers. %1 is a place.</extracomment>
+        <translation>prognoza: %1</translation>
+    </message>
+    <message>
+        <source>high %1</source>
+        <extracomment>Spoken by screen readers. Highest temperature of a day; %1 has number and unit.</extracomment>
+        <translation>maksymalnie %1</translation>
+    </message>
+    <message>
+        <source>low %1</source>
+        <extracomment>Spoken by screen readers. Lowest temperature of a day; %1 has number and unit.</extracomment>
+        <translation>minimalnie %1</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <extracomment>Behind the time of an observation that is old; %1 is a number of hours, 2 or more. Little room: hours as a short unit.</extracomment>
+        <translation>%1 h temu</translation>
+    </message>
 </context>
 </TS>

@@ -293,5 +293,145 @@
         <extracomment>Shown in place of the weather until a place has been chosen. Zephyrix is the name of the main application.</extracomment>
         <translation>Öppna Zephyrix för att aktivera widgeten.</translation>
     </message>
+    <message>
+        <source>north</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>nord</translation>
+    </message>
+    <message>
+        <source>north-north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>nordnordost</translation>
+    </message>
+    <message>
+        <source>north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>nordost</translation>
+    </message>
+    <message>
+        <source>east-north-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>ostnordost</translation>
+    </message>
+    <message>
+        <source>east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>ost</translation>
+    </message>
+    <message>
+        <source>east-south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>ostsydost</translation>
+    </message>
+    <message>
+        <source>south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>sydost</translation>
+    </message>
+    <message>
+        <source>south-south-east</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>sydsydost</translation>
+    </message>
+    <message>
+        <source>south</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>syd</translation>
+    </message>
+    <message>
+        <source>south-south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>sydsydväst</translation>
+    </message>
+    <message>
+        <source>south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>sydväst</translation>
+    </message>
+    <message>
+        <source>west-south-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>västsydväst</translation>
+    </message>
+    <message>
+        <source>west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>väst</translation>
+    </message>
+    <message>
+        <source>west-north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>västnordväst</translation>
+    </message>
+    <message>
+        <source>north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>nordväst</translation>
+    </message>
+    <message>
+        <source>north-north-west</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>nordnordväst</translation>
+    </message>
+    <message>
+        <source>from changing directions</source>
+        <extracomment>Spoken direction the wind comes from, in place of %1 of &quot;wind %1 %2 %3&quot;.</extracomment>
+        <translation>från växlande riktningar</translation>
+    </message>
+    <message>
+        <source>wind %1 %2 %3</source>
+        <extracomment>Spoken by screen readers. %1 is the direction in words or empty, %2 the speed, %3 its unit.</extracomment>
+        <translation>vind %1 %2 %3</translation>
+    </message>
+    <message>
+        <source>no wind</source>
+        <extracomment>Spoken by screen readers.</extracomment>
+        <translation>ingen vind</translation>
+    </message>
+    <message>
+        <source>precipitation %1 %2</source>
+        <extracomment>Spoken by screen readers. %1 is the amount, %2 its unit.</extracomment>
+        <translation>nederbörd %1 %2</translation>
+    </message>
+    <message>
+        <source>in the last hour</source>
+        <extracomment>Spoken by screen readers. Behind the amount of precipitation.</extracomment>
+        <translation>under den senaste timmen</translation>
+    </message>
+    <message>
+        <source>in the last %1 hours</source>
+        <extracomment>Spoken by screen readers. Behind the amount of precipitation; %1 is more than one.</extracomment>
+        <translation>under de senaste %1 timmarna</translation>
+    </message>
+    <message>
+        <source>pressure %1 %2</source>
+        <extracomment>Spoken by screen readers. %1 is the air pressure, %2 its unit.</extracomment>
+        <translation>lufttryck %1 %2</translation>
+    </message>
+    <message>
+        <source>observed at %1</source>
+        <extracomment>Spoken by screen readers. %1 is a clock time.</extracomment>
+        <translation>uppmätt klockan %1</translation>
+    </message>
+    <message>
+        <source>forecast for %1</source>
+        <extracomment>Spoken by screen readers. %1 is a place.</extracomment>
+        <translation>prognos för %1</translation>
+    </message>
+    <message>
+        <source>high %1</source>
+        <extracomment>Spoken by screen readers. Highest temperature of a day; %1 has number and unit.</extracomment>
+        <translation>högst %1</translation>
+    </message>
+    <message>
+        <source>low %1</source>
+        <extracomment>Spoken by screen readers. Lowest temperature of a day; %1 has number and unit.</extracomment>
+        <translation>lägst %1</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <extracomment>Behind the time of an observation that is old; %1 is a number of hours, 2 or more. Little room: hours as a short unit.</extracomment>
+        <translation>för %1 h sedan</translation>
+    </message>
 </context>
 </TS>

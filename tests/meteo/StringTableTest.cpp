@@ -99,6 +99,9 @@ TEST(StringTable, EveryTextIsFitForUse) {
         for (const auto& [key, text] : tableOf(language).texts) {
             EXPECT_FALSE(text.trimmed().isEmpty()) << qPrintable(language + u' ' + key);
             EXPECT_EQ(matches(placeholders, text), matches(placeholders, key)) << qPrintable(text);
+            for (const char* place : {"%1", "%2", "%3"})
+                EXPECT_EQ(text.count(QLatin1String(place)), key.count(QLatin1String(place)))
+                    << qPrintable(text);
             EXPECT_FALSE(text.contains(mixedScripts)) << qPrintable(text);
             if (language == QLatin1String("en")) {
                 EXPECT_EQ(text, key);
