@@ -204,9 +204,8 @@ void ObsCell::showAge(const Obs& record) {
     const double hours =
         record.date ? Clock::now().secondsSince(*record.date) / secondsAnHour : 0.0;
     ageLabel_->setVisible(hours >= oldFrom);
-    ageLabel_->setText(
-        localized("%@ hours ago")
-            .replace(QLatin1String("%@"), QString::number(static_cast<qint64>(hours))));
+    ageLabel_->setText(localized("%1 h ago").arg(static_cast<qint64>(hours)));
+    ageLabel_->setToolTip(localized("observed at %1").arg(dateLabel()->text()));
 }
 
 QString ObsCell::spokenText() const {

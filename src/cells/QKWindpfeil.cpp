@@ -3,14 +3,13 @@
 #include <algorithm>
 #include <limits>
 
-#include <QAccessible>
-
 #include "foundation/Bundle.h"
 #include "foundation/UserDefaults.h"
 #include "meteo/MeteoMapping.h"
 #include "symbols/QKWeatherSymbols.h"
 #include "ui/Motion.h"
 #include "ui/NotificationQueue.h"
+#include "ui/ScreenReader.h"
 
 namespace zephyrix {
 
@@ -149,12 +148,15 @@ void QKWindpfeil::setWindSpeedMaxLabel(Label* view) {
 }
 
 void QKWindpfeil::buildSpeedLabel() {
-    constexpr double share = 0.34;        // of the view's shorter side
+    constexpr double share = 0.34;        // of the view
     constexpr double smallestText = 0.1;  // of the font's size
     constexpr int fontSize = 16;          // points
-    const double side = share * std::min(width(), height());
+    // As wide as its share of the shorter side, but as high as its share of the height.
+    const double labelWidth = share * std::min(width(), height());
+    const double labelHeight = share * height();
     auto* label = new Label(this);
-    label->setExactFrame({width() / 2.0 - side / 2.0, height() / 2.0 - side / 2.0, side, side});
+    label->setExactFrame({(width() - labelWidth) / 2.0, (height() - labelHeight) / 2.0, labelWidth,
+                          labelHeight});
     label->setAlignment(Qt::AlignCenter);
     label->setBackgroundColor(backgroundColor());
     label->setTextColor(Qt::white);
@@ -244,7 +246,7 @@ void QKWindpfeil::refreshArrow() {
     setShown(windPfeil_, true);
     setShown(windSpeedLabel_, true);
     setShown(labelView_, false);
-    if (!QAccessible::isActive() || !windPfeil_)
+    if (!ScreenReader::isRunning() || !windPfeil_)
         return;
     QString spoken = Bundle::main().localizedString(QStringLiteral("Wind:%d degrees %@"));
     spoken.replace(QStringLiteral("%d"), QString::number(integerOf(direction_)));

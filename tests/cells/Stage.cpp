@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <QApplication>
 #include <QLinearGradient>
 #include <QPainter>
 
@@ -130,6 +131,23 @@ TableCell* Stage::cellForRowAtIndexPath(const IndexPath& path) {
 
 double Stage::heightForRowAtIndexPath(const IndexPath& path) {
     return path.row == 0 ? obsRowHeight : overviewRowHeight;
+}
+
+void Stage::willDisplayCell(TableCell* cell, const IndexPath& /*path*/) {
+    auto* effect = new VisualEffectView;
+    effect->setGeometry(cell->rect());
+    auto* white = new View(effect);
+    white->setGeometry(effect->rect());
+    white->setBackgroundColor(QColor(255, 255, 255, 128));
+    cell->setSelectedBackgroundView(effect);
+}
+
+void Stage::focusFirstRow() {
+    layOut();
+    surface_.show();
+    surface_.activateWindow();
+    QApplication::processEvents();
+    obsCell()->setFocus(Qt::TabFocusReason);
 }
 
 void Stage::didSelectRowAtIndexPath(const IndexPath& path) {

@@ -44,6 +44,8 @@ class Stage : public TableViewController {
     /// Null while collapsed.
     [[nodiscard]] ForecastCell* forecastCell();
     void toggle();
+    /// As by the Tab key, in a window that is shown and active.
+    void focusFirstRow();
     /// Lays everything out in its present size.
     void layOut();
     /// The panel over a plain coloured backdrop.
@@ -53,6 +55,7 @@ class Stage : public TableViewController {
     [[nodiscard]] int numberOfRowsInSection(int section) override;
     [[nodiscard]] TableCell* cellForRowAtIndexPath(const IndexPath& path) override;
     [[nodiscard]] double heightForRowAtIndexPath(const IndexPath& path) override;
+    void willDisplayCell(TableCell* cell, const IndexPath& path) override;
     void didSelectRowAtIndexPath(const IndexPath& path) override;
 
     int selections = 0;

@@ -1,0 +1,218 @@
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "Stage.h"
+#include "foundation/Clock.h"
+#include "foundation/Screen.h"
+#include "support/ScopedEnvironment.h"
+
+namespace zephyrix {
+namespace {
+
+using testing::ScopedEnvironment;
+using testing::showerInBerlin;
+using testing::Stage;
+using testing::Weather;
+
+constexpr double noonOfJuneFirst = 1433152800.0;  // 2015-06-01 10:00 UTC, 12:00 in Berlin
+
+// Stands still until a test moves it.
+class ForecastCellTest : public ::testing::Test {
+  protected:
+    ForecastCell* cellOn(int width, Weather weather = showerInBerlin()) {
+        stage = std::make_unique<Stage>(std::move(weather), width, 1.0);
+        stage->layOut();
+        stage->toggle();
+        stage->layOut();
+        return stage->forecastCell();
+    }
+    static void layOut(ForecastCell* cell) {
+        cell->setNeedsLayout();
+        cell->layoutIfNeeded();
+    }
+    static QList<ForecastDayView*> columnsOf(const ForecastCell* cell) {
+        return cell->container()->findChildren<ForecastDayView*>(QString(),
+                                                                 Qt::FindDirectChildrenOnly);
+    }
+    QStringList keptDates(ForecastCell* cell, const QStringList& dates) {
+        QVariantList days;
+        for (const QString& date : dates)
+            days << QVariantMap{{QStringLiteral("date"), date}};
+        cell->setData(days);
+        QStringList kept;
+        const QVariantList left = cell->data().value_or(QVariantList());
+        for (const QVariant& day : left)
+            kept << day.toMap().value(QStringLiteral("date")).toString();
+        return kept;
+    }
+
+    Instant now = Instant::fromSecondsSince1970(noonOfJuneFirst);
+    ReplacedClock clock{[this] { return now; }};
+    std::unique_ptr<Stage> stage;
+};
+
+struct WidthCase {
+    int width;
+    int columns;
+    QList<int> left;
+    int columnWidth;
+};
+
+TEST_F(ForecastCellTest, ColumnsFillTheWidthAsTheScreenAllows) {
+    const QList<WidthCase> cases = {
+        {320, 3, {0, 107, 213}, 107},         {375, 3, {0, 125, 250}, 125},
+        {376, 4, {0, 94, 188, 282}, 94},      {414, 4, {0, 104, 207, 311}, 104},
+        {415, 5, {0, 83, 166, 249, 332}, 83}, {600, 5, {0, 120, 240, 360, 480}, 120},
+    };
+    for (const WidthCase& expected : cases) {
+        const ForecastCell* cell = cellOn(expected.width);
+        const auto columns = columnsOf(cell);
+        ASSERT_EQ(columns.size(), expected.columns) << expected.width;
+        for (int index = 0; index < expected.columns; ++index) {
+            const ForecastDayView* column = columns.at(index);
+            EXPECT_EQ(column->geometry(),
+                      QRect(expected.left.at(index), 0, expected.columnWidth, 104))
+                << expected.width << ", column " << index;
+            EXPECT_EQ(column->separator()->isHidden(), index == expected.columns - 1);
+            EXPECT_EQ(column->tag(), 65280 + index);
+            EXPECT_EQ(column->backgroundColor().alpha(), 0);
+        }
+    }
+}
+
+TEST_F(ForecastCellTest, FewerDaysThanColumnsKeepTheScreensWidth) {
+    Weather weather = showerInBerlin();
+    weather.days = weather.days.mid(0, 2);
+    const auto columns = columnsOf(cellOn(440, weather));
+    ASSERT_EQ(columns.size(), 2);
+    EXPECT_EQ(columns.at(1)->geometry(), QRect(88, 0, 88, 104));
+    EXPECT_FALSE(columns.at(1)->separator()->isHidden());
+}
+
+TEST_F(ForecastCellTest, ShowsDayAndTemperaturesOrADash) {
+    Weather weather = showerInBerlin();
+    QVariantMap second = weather.days.at(1).toMap();
+    second.remove(QStringLiteral("tx"));
+    second[QStringLiteral("symbol")] = QStringLiteral("520200");  // a text is no code
+    weather.days[1] = second;
+    const auto columns = columnsOf(cellOn(375, weather));
+    EXPECT_EQ(columns.at(0)->dayLabel()->text(), QStringLiteral("Mon"));
+    EXPECT_EQ(columns.at(0)->tx()->text(), QStringLiteral("14°C"));
+    EXPECT_EQ(columns.at(0)->tn()->text(), QStringLiteral("8°C"));
+    EXPECT_EQ(columns.at(0)->symbol()->image().size(), QSize(48, 48));
+    EXPECT_EQ(columns.at(1)->tx()->text(), QStringLiteral("-"));
+    EXPECT_EQ(columns.at(1)->tn()->text(), QStringLiteral("7°C"));
+    EXPECT_TRUE(columns.at(1)->symbol()->image().isNull());
+    EXPECT_EQ(stage->forecastCell()->accessibleName(),
+              QStringLiteral("forecast for Berlin: "
+                             "Monday, high 14 degrees Celsius, low 8 degrees Celsius; "
+                             "Tuesday, low 7 degrees Celsius; "
+                             "Wednesday, high 12 degrees Celsius, low 5 degrees Celsius"));
+}
+
+TEST_F(ForecastCellTest, ColumnsAreMadeAnewAtEachPassButStayWithoutDays) {
+    ForecastCell* cell = cellOn(375);
+    const QPointer<ForecastDayView> before = columnsOf(cell).first();
+    layOut(cell);
+    EXPECT_TRUE(before.isNull());
+    EXPECT_EQ(columnsOf(cell).size(), 3);
+    const ForecastDayView* kept = columnsOf(cell).first();
+    for (const bool given : {false, true}) {
+        cell->setData(given ? std::make_optional(QVariantList()) : std::nullopt);
+        layOut(cell);
+        EXPECT_EQ(columnsOf(cell).first(), kept);
+    }
+    cell->setData(showerInBerlin().days);
+    cell->setLocation(std::nullopt);
+    layOut(cell);
+    EXPECT_EQ(columnsOf(cell).first(), kept);
+}
+
+TEST_F(ForecastCellTest, KeepsDaysFromTodayOnInTheDevicesZone) {
+    ForecastCell* cell = cellOn(375);
+    const QStringList dates = {QStringLiteral("2015-06-02"), QStringLiteral("2015-05-31"),
+                               QStringLiteral("2015-06-01"), QStringLiteral("2015-6-3"),
+                               QStringLiteral("2015-06-31"), QString()};
+    const QStringList fromToday = {QStringLiteral("2015-06-02"), QStringLiteral("2015-06-01")};
+    // Midnight and the last second of June 1 in Berlin, which is two hours ahead of UTC.
+    for (const double hoursFromNoon : {-12.0, 0.0, 11.9999}) {
+        now = Instant::fromSecondsSince1970(noonOfJuneFirst + hoursFromNoon * 3600.0);
+        EXPECT_EQ(keptDates(cell, dates), fromToday) << hoursFromNoon;
+    }
+    now = Instant::fromSecondsSince1970(noonOfJuneFirst + 12.0 * 3600.0);
+    EXPECT_EQ(keptDates(cell, dates), QStringList{QStringLiteral("2015-06-02")});
+    const ScopedEnvironment elsewhere{{"TZ", "Pacific/Honolulu"}};
+    EXPECT_EQ(keptDates(cell, dates), fromToday);
+}
+
+// On the day of 25 hours midnight is more than 24 hours ago, and it is still today.
+TEST_F(ForecastCellTest, CountsCalendarDaysAcrossAChangeOfTheClock) {
+    ForecastCell* cell = cellOn(375);
+    now = Instant::fromSecondsSince1970(1445813940.0);  // 2015-10-25 23:59 in Berlin
+    EXPECT_EQ(keptDates(cell, {QStringLiteral("2015-10-24"), QStringLiteral("2015-10-25")}),
+              QStringList{QStringLiteral("2015-10-25")});
+}
+
+// The filter runs when the days are given, not when they are laid out.
+TEST_F(ForecastCellTest, ADayThatEndsAfterwardsStaysUntilTheDaysAreGivenAgain) {
+    const ForecastCell* cell = cellOn(375);
+    now = now.addingSeconds(24 * 3600.0);
+    stage->layOut();
+    EXPECT_EQ(columnsOf(cell).first()->dayLabel()->text(), QStringLiteral("Mon"));
+    stage->tableView()->reloadData();
+    stage->layOut();
+    EXPECT_EQ(columnsOf(stage->forecastCell()).first()->dayLabel()->text(), QStringLiteral("Tue"));
+}
+
+TEST_F(ForecastCellTest, ADayViewIsYellowWhenHighlighted) {
+    ForecastDayView view;
+    view.setHighlighted(true);
+    EXPECT_EQ(view.backgroundColor(), QColor(Qt::yellow));
+    view.setHighlighted(false);
+    EXPECT_EQ(view.backgroundColor().alpha(), 0);
+}
+
+TEST_F(ForecastCellTest, CallsItselfThroughTheClass) {
+    class TwoColumns : public ForecastCell {
+      public:
+        int dayCountForScreen() override { return 2; }
+        QString dayFromDateString(const std::optional<QString>& /*text*/) override {
+            return QStringLiteral("day");
+        }
+    };
+    cellOn(375);
+    TwoColumns cell;
+    cell.resize(300, 104);
+    View container(&cell);
+    container.resize(300, 104);
+    cell.setContainer(&container);
+    cell.awakeFromNib();
+    cell.setLocation(LocationResult(showerInBerlin().place));
+    cell.setDefaults(&stage->defaults());
+    QKCompoundSymbol symbols;
+    cell.setCs(&symbols);
+    cell.setData(showerInBerlin().days);
+    cell.layoutIfNeeded();
+    const auto columns = columnsOf(&cell);
+    ASSERT_EQ(columns.size(), 2);
+    EXPECT_EQ(columns.at(1)->geometry(), QRect(150, 0, 150, 104));
+    EXPECT_EQ(columns.at(0)->dayLabel()->text(), QStringLiteral("day"));
+}
+
+TEST(ForecastCellDeathTest, StopsWithoutSettings) {
+    EXPECT_DEATH(
+        {
+            const ReplacedClock clock(
+                [] { return Instant::fromSecondsSince1970(noonOfJuneFirst); });
+            ForecastCell cell;
+            cell.awakeFromNib();
+            cell.setLocation(LocationResult(showerInBerlin().place));
+            cell.setData(showerInBerlin().days);
+            cell.layoutIfNeeded();
+        },
+        "a forecast row has no settings");
+}
+
+}  // namespace
+}  // namespace zephyrix
