@@ -206,9 +206,9 @@ void Label::paintEvent(QPaintEvent* /*event*/) {
 }
 
 bool Label::event(QEvent* event) {
-    if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
-                           isTruncated() ? text() : QString(), this);
+    // Where nothing is cut off, the view around it may have something to tell.
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && isTruncated()) {
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
         return true;
     }
     return QLabel::event(event);
