@@ -16,6 +16,9 @@ namespace {
 // Whatever lies below this is the feed's mark for a missing number, -9999.
 constexpr std::int64_t leastNumber = -9998;
 
+constexpr double secondsAnHour = 3600.0;
+constexpr double oldFrom = 2.0;  // hours; an observation from here on is called old
+
 const Number& required(const std::optional<Number>& number, const char* name) {
     if (!number)
         fatalError(QStringLiteral("an observation without \"%1\" reached its row")
@@ -196,16 +199,29 @@ void ObsCell::showTime(const Obs& record) {
     dateLabel()->setText(record.date ? df_.stringFromDate(*record.date) : QString());
 }
 
+std::optional<std::int64_t> ObsCell::shownAge(const Obs& record) {
+    if (!record.date)
+        return std::nullopt;
+    const double hours = Clock::now().secondsSince(*record.date) / secondsAnHour;
+    return hours >= oldFrom ? std::optional(Number(hours).integerValue()) : std::nullopt;
+}
+
+std::optional<Instant> ObsCell::nextAge(const Obs& record) {
+    if (!record.date)
+        return std::nullopt;
+    const auto shown = shownAge(record);
+    const double next = shown ? static_cast<double>(*shown) + 1.0 : oldFrom;
+    return record.date->addingSeconds(next * secondsAnHour);
+}
+
 void ObsCell::showAge(const Obs& record) {
-    constexpr double secondsAnHour = 3600.0;
-    constexpr double oldFrom = 2.0;  // hours
     if (!ageLabel_)
         return;
-    const double hours =
-        record.date ? Clock::now().secondsSince(*record.date) / secondsAnHour : 0.0;
-    ageLabel_->setVisible(hours >= oldFrom);
-    ageLabel_->setText(localized("%1 h ago").arg(static_cast<qint64>(hours)));
-    ageLabel_->setToolTip(localized("observed at %1").arg(dateLabel()->text()));
+    const auto hours = shownAge(record);
+    const QString text = hours ? localized("%1 h ago").arg(*hours) : QString();
+    ageLabel_->setVisible(hours.has_value());
+    ageLabel_->setText(text);
+    setToolTip(text);
 }
 
 QString ObsCell::spokenText() const {

@@ -77,6 +77,11 @@ class ObsCell : public TableCell {
     /// renderer, or one of the record's tt, ff and td are missing.
     virtual void configureCell(const std::optional<Obs>& record);
 
+    /// Whole hours since the observation: from 2 on, when the row says how old it is.
+    [[nodiscard]] static std::optional<std::int64_t> shownAge(const Obs& record);
+    /// When that changes next, as long as the record stays; nothing for one without a date.
+    [[nodiscard]] static std::optional<Instant> nextAge(const Obs& record);
+
     [[nodiscard]] QString spokenText() const override;
 
   private:
