@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QPainter>
 
+#include "AppearanceSchedule.h"
 #include "DesktopContext.h"
 #include "FeedAddress.h"
 #include "PanelView.h"
@@ -50,7 +51,9 @@ class Panel {
 
     int showWindow() {
         PanelWindow window(controller_, view_, width());
+        AppearanceSchedule schedule(controller_);
         window.appear();
+        schedule.panelAppeared();
         const int status = QApplication::exec();
         if (window.isVisible())
             window.close();
