@@ -303,12 +303,12 @@ TEST_F(AppearanceScheduleTest, RowSaysFromTwoHoursOnHowOldItIs) {
     EXPECT_EQ(observation()->toolTip(), QString());
     wait(1.1);
     EXPECT_FALSE(age()->isHidden());
-    EXPECT_EQ(age()->text(), QStringLiteral("2 hours ago"));
+    EXPECT_EQ(age()->text(), QStringLiteral("2 h ago"));
     EXPECT_EQ(observation()->toolTip(), age()->text());
-    EXPECT_THAT(observation()->accessibleName().toStdString(), HasSubstr("2 hours ago"));
+    EXPECT_THAT(observation()->accessibleName().toStdString(), HasSubstr("2 h ago"));
     server_.refuse();
     wait(hour);
-    EXPECT_EQ(age()->text(), QStringLiteral("3 hours ago"));
+    EXPECT_EQ(age()->text(), QStringLiteral("3 h ago"));
 }
 
 struct Day {
