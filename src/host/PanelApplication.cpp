@@ -15,6 +15,7 @@
 #include "TerminationSignals.h"
 #include "cells/Registration.h"
 #include "foundation/Log.h"
+#include "foundation/Screen.h"
 #include "ui/PanelSurface.h"
 #include "ui/Theme.h"
 
@@ -128,6 +129,9 @@ int runPanel(const PanelOptions& options, char* programName, QTextStream& out) {
     QObject::connect(&signalled, &TerminationSignals::received, qApp, [] { QApplication::quit(); });
     followScheme(options.scheme);
     registerCells();
+    // The symbols take the screen's scale when the controller is made.
+    Screen::setMain(QRectF(0.0, 0.0, options.width, 0.0),
+                    options.scale.value_or(application.devicePixelRatio()));
     Panel panel(options);
     return options.reportsOnly() ? panel.report(out) : panel.showWindow();
 }

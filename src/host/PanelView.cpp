@@ -38,6 +38,10 @@ int PanelView::panelHeight() const {
 
 void PanelView::layOut(int width, double scale) {
     Screen::setMain(QRectF(0.0, 0.0, width, panelHeight()), scale);
+    if (controller_.cs().winscale() != scale) {
+        controller_.cs().setWinscale(scale);
+        controller_.tableView()->reloadData();
+    }
     controller_.tableView()->resize(width, controller_.tableView()->height());
     controller_.tableView()->layoutIfNeeded();
     resize(width, panelHeight());

@@ -18,7 +18,8 @@ class PanelView : public QWidget {
 
     /// Points, for the panel's present state; while a row fades it moves to its new value.
     [[nodiscard]] int panelHeight() const;
-    /// Takes this width and the panel's own height, and lays everything out, now.
+    /// Takes this width (points) and the panel's own height, and lays everything out, now. At
+    /// another scale (pixels a point) the symbols are composed anew.
     void layOut(int width, double scale);
 
   Q_SIGNALS:

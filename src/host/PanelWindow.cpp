@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QWindow>
 
 #include "RowReport.h"
 #include "foundation/Screen.h"
@@ -30,6 +31,8 @@ PanelWindow::PanelWindow(TodayViewController& controller, PanelView& view, int w
 void PanelWindow::appear() {
     controller_.viewWillAppear(false);
     show();
+    connect(windowHandle(), &QWindow::screenChanged, this,
+            [this] { view_.layOut(width(), devicePixelRatioF()); });
 }
 
 void PanelWindow::followPanel() {

@@ -1,0 +1,73 @@
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "cells/ForecastCell.h"
+#include "cells/ObsCell.h"
+#include "cells/Registration.h"
+#include "foundation/Clock.h"
+#include "foundation/Screen.h"
+#include "host/PanelView.h"
+#include "support/Documents.h"
+#include "support/TestHome.h"
+
+namespace zephyrix {
+namespace {
+
+using namespace zephyrix::testing;
+
+class PanelViewTest : public ::testing::Test {
+  protected:
+    PanelViewTest() {
+        qputenv("XDG_CONFIG_HOME", freshFolder().toUtf8());
+        qputenv("XDG_CACHE_HOME", freshFolder().toUtf8());
+        registerCells();
+        UserDefaults::suite(QStringLiteral("group.Zephyrix"))
+            ->set(QStringLiteral("location"), LocationResult::defaultSearchResult().asDict());
+        UserDefaults::standard().set(QStringLiteral("showingAll"), true);
+        controller_ = std::make_unique<TodayViewController>([](const auto&) {});
+        view_ = std::make_unique<PanelView>(*controller_);
+        controller_->setLastWeatherData(
+            FeedAnswer::fromBody(feedDocument(21.0, Clock::now()), Number(18228265)).document);
+    }
+    ~PanelViewTest() override { Screen::setMain(QRectF(0.0, 0.0, 375.0, 667.0), 1.0); }
+
+    template <class Cell>
+    [[nodiscard]] Cell* row(int row) const {
+        return qobject_cast<Cell*>(controller_->tableView()->cellForRow({row, 0}));
+    }
+
+    std::unique_ptr<TodayViewController> controller_;
+    std::unique_ptr<PanelView> view_;
+};
+
+TEST_F(PanelViewTest, SymbolsHaveThePixelsOfTheScreen) {
+    for (const double scale : {1.0, 2.0, 1.25, 2.0}) {
+        view_->layOut(440, scale);
+        const ImageView* symbol = row<ObsCell>(0)->symbol();
+        EXPECT_EQ(symbol->image().devicePixelRatio(), scale);
+        EXPECT_EQ(symbol->image().width(), qRound(symbol->width() * scale));
+    }
+}
+
+TEST_F(PanelViewTest, NarrowerPanelHasFewerDays) {
+    for (const auto& [width, days] : {std::pair(440, 5), std::pair(400, 4), std::pair(360, 3)}) {
+        view_->layOut(width, 1.0);
+        EXPECT_EQ(row<ForecastCell>(1)->container()->findChildren<ForecastDayView*>().size(), days)
+            << width << " points";
+    }
+}
+
+TEST_F(PanelViewTest, SourceIsNamedBelowTheRows) {
+    const int without = view_->panelHeight();
+    Q_EMIT controller_->refreshed(true);
+    view_->layOut(440, 1.0);
+    const auto* named = view_->findChild<Label*>(QString(), Qt::FindDirectChildrenOnly);
+    ASSERT_NE(named, nullptr);
+    EXPECT_EQ(named->text(), QStringLiteral("a test"));
+    EXPECT_GE(named->y(), controller_->tableView()->geometry().bottom());
+    EXPECT_GT(view_->panelHeight(), without);
+}
+
+}  // namespace
+}  // namespace zephyrix
