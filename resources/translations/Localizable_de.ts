@@ -289,6 +289,26 @@
         <translation>Weniger anzeigen...</translation>
     </message>
     <message>
+        <source>Demonstration weather</source>
+        <extracomment>Below the panel, in the window&apos;s title and in printed reports: the weather is made up. Room for 30 letters.</extracomment>
+        <translation>Demonstrationswetter</translation>
+    </message>
+    <message>
+        <source>Wind</source>
+        <extracomment>In front of the values, in the report that is printed for people.</extracomment>
+        <translation>Wind</translation>
+    </message>
+    <message>
+        <source>Precipitation</source>
+        <extracomment>In front of the values, in the report that is printed for people.</extracomment>
+        <translation>Niederschlag</translation>
+    </message>
+    <message>
+        <source>Pressure</source>
+        <extracomment>In front of the values, in the report that is printed for people.</extracomment>
+        <translation>Luftdruck</translation>
+    </message>
+    <message>
         <source>Please open Zephyrix to activate the widget.</source>
         <extracomment>Shown in place of the weather until a place has been chosen. Zephyrix is the name of the main application.</extracomment>
         <translation>Bitte öffnen Sie Zephyrix, um das Widget zu aktivieren.</translation>

@@ -11,6 +11,10 @@ namespace zephyrix {
 
 namespace {
 
+QString localized(const char* key) {
+    return Bundle::main().localizedString(QLatin1String(key));
+}
+
 QString textOf(const QLabel* label) {
     return label == nullptr ? QString() : label->text();
 }
@@ -80,13 +84,13 @@ QStringList observationLines(const QJsonObject& row) {
     const QJsonObject pressure = row.value(QLatin1String("pressure")).toObject();
     const QJsonValue direction = wind.value(QLatin1String("direction"));
     const QString from =
-        direction.isDouble() ? QStringLiteral("from %1°").arg(direction.toDouble()) : QString();
+        direction.isDouble() ? QStringLiteral("%1°").arg(direction.toDouble()) : QString();
     return line({}, {text(row, "place"), text(row, "time")}) +
            line({}, {text(row, "temperature"), text(row, "weather")}) +
-           line(QStringLiteral("Wind"), {text(wind, "speed"), text(wind, "unit"), from}) +
-           line(QStringLiteral("Precipitation"),
+           line(localized("Wind"), {text(wind, "speed"), text(wind, "unit"), from}) +
+           line(localized("Precipitation"),
                 {text(rain, "amount"), text(rain, "unit"), text(rain, "period")}) +
-           line(QStringLiteral("Pressure"), {text(pressure, "value"), text(pressure, "unit")});
+           line(localized("Pressure"), {text(pressure, "value"), text(pressure, "unit")});
 }
 
 QStringList forecastLines(const QJsonObject& row) {
@@ -136,9 +140,7 @@ QString RowReport::source(const TodayViewController& controller) {
     if (!document || !document->obs)
         return {};
     const QString name = document->obs->asDict().value(QStringLiteral("source")).toString();
-    return name == QLatin1String("demonstration")
-               ? Bundle::main().localizedString(QStringLiteral("Demonstration weather"))
-               : name;
+    return name == QLatin1String("demonstration") ? localized("Demonstration weather") : name;
 }
 
 }  // namespace zephyrix
