@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QUiLoader>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
 
 #include "Hairline.h"
 #include "ImageView.h"
@@ -70,6 +72,23 @@ std::unique_ptr<Loader> makeLoader() {
     return loader;
 }
 
+// Without what only an editor needs: blanks between elements, comments, and the list of own
+// classes, which the loader knows by itself. Reading the description is most of the work of an
+// instance. A description that is no XML stays as it is, for the loader to complain about.
+QByteArray withoutEditorsParts(const QByteArray& description) {
+    QByteArray compact;
+    QXmlStreamReader reader(description);
+    QXmlStreamWriter writer(&compact);
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isStartElement() && reader.name() == QLatin1String("customwidgets"))
+            reader.skipCurrentElement();
+        else if (!reader.isWhitespace() && !reader.isComment() && !reader.hasError())
+            writer.writeCurrentToken(reader);
+    }
+    return reader.hasError() ? description : compact;
+}
+
 template <class Visit>
 void visitChildrenFirst(QWidget* root, const Visit& visit) {
     const auto children = root->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
@@ -82,11 +101,11 @@ void visitChildrenFirst(QWidget* root, const Visit& visit) {
 }  // namespace
 
 Nib::Nib(QString name) : name_(std::move(name)) {
-    description_ = Bundle::main().layout(name_).value_or(QByteArray());
+    description_ = withoutEditorsParts(Bundle::main().layout(name_).value_or(QByteArray()));
 }
 
-Nib::Nib(QString name, QByteArray description)
-    : name_(std::move(name)), description_(std::move(description)) {}
+Nib::Nib(QString name, const QByteArray& description)
+    : name_(std::move(name)), description_(withoutEditorsParts(description)) {}
 
 QWidget* Nib::instantiate(QWidget* parent) const {
     static const std::unique_ptr<Loader> loader = makeLoader();

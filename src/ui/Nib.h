@@ -39,7 +39,7 @@ class Nib {
     /// A name without a description makes a nib without one: instantiate() gives null.
     explicit Nib(QString name);
     /// A description that is at hand already, with a name for messages.
-    Nib(QString name, QByteArray description);
+    Nib(QString name, const QByteArray& description);
 
     /// The root view, or null when there is no description or it cannot be read (one line in the
     /// log says why).
