@@ -64,6 +64,7 @@ void ForecastCell::connectOutlets() {
 void ForecastCell::awakeFromNib() {
     TableCell::awakeFromNib();
     df_.setDateFormat(QStringLiteral("EEE"));
+    spokenDf_.setDateFormat(QStringLiteral("EEEE"));
     dayStringParser_.setDateFormat(QStringLiteral("yyyy-MM-dd"));
     dayStringParser_.setLocale("en_US_POSIX");
 }
@@ -146,10 +147,8 @@ void ForecastCell::showDay(const QVariantMap& day, ForecastDayView& column, Unit
     column.tn()->setText(temperatureOrDash(tn, unit));
     column.tx()->setText(temperatureOrDash(tx, unit));
 
-    DateFormatter fullName;
-    fullName.setDateFormat(QStringLiteral("EEEE"));
     const auto instant = date ? dayStringParser_.dateFromString(*date) : std::nullopt;
-    const QString spoken = spokenDay(instant ? fullName.stringFromDate(*instant) : QString(),
+    const QString spoken = spokenDay(instant ? spokenDf_.stringFromDate(*instant) : QString(),
                                      Number::fromVariant(tx), Number::fromVariant(tn), unit);
     column.setAccessibleName(spoken);
     spokenDays_ << spoken;

@@ -74,6 +74,7 @@ class ForecastCell : public TableCell {
     UserDefaults* defaults_ = nullptr;
     QKCompoundSymbol* cs_ = nullptr;
     DateFormatter df_;
+    DateFormatter spokenDf_;  // whole names of days, for screen readers
     DateFormatter dayStringParser_;
     Nib nib_;
     QStringList spokenDays_;  // of the columns on display

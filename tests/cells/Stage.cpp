@@ -71,6 +71,7 @@ Stage::Stage(Weather weather, int width, double scale)
     for (const char* unit : {"temperature", "wind", "precipitation", "pressure"})
         defaults_->remove(QString::fromLatin1(unit));
     defaults_->set(QStringLiteral("wind"), 2);
+    symbols_.setUseCache(true);
     surface_.setAttribute(Qt::WA_TranslucentBackground);
     surface_.setContent(tableView());
     connect(tableView(), &TableView::contentHeightChanged, &surface_,
