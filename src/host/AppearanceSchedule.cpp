@@ -57,14 +57,19 @@ bool AppearanceSchedule::hasPlace() const {
     return controller_.location() && controller_.location()->uid();
 }
 
+const Obs* AppearanceSchedule::observation() const {
+    const auto& document = controller_.lastWeatherData();
+    return document && document->obs ? &*document->obs : nullptr;
+}
+
 AppearanceSchedule::TimeShown AppearanceSchedule::timeToShow() const {
     const GregorianCalendar calendar(defaultTimeZone());
     const CalendarFields today = calendar.fields(Clock::now());
-    const auto& document = controller_.lastWeatherData();
+    const Obs* record = observation();
     return {calendar.timeZone().id(),
             QDate(static_cast<int>(today.year), static_cast<int>(today.month),
                   static_cast<int>(today.day)),
-            document && document->obs ? ObsCell::shownAge(*document->obs) : std::nullopt};
+            record != nullptr ? ObsCell::shownAge(*record) : std::nullopt};
 }
 
 Instant AppearanceSchedule::nextReload() const {
@@ -72,8 +77,8 @@ Instant AppearanceSchedule::nextReload() const {
     CalendarFields midnight = calendar.fields(Clock::now());
     ++midnight.day;
     midnight.hour = midnight.minute = midnight.second = 0;
-    const auto& document = controller_.lastWeatherData();
-    const auto older = document && document->obs ? ObsCell::nextAge(*document->obs) : std::nullopt;
+    const Obs* record = observation();
+    const auto older = record != nullptr ? ObsCell::nextAge(*record) : std::nullopt;
     const Instant nextDay = calendar.instant(midnight);
     return (older ? std::min(*older, nextDay) : nextDay).addingSeconds(surely);
 }

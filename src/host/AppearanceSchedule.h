@@ -53,6 +53,7 @@ class AppearanceSchedule : public QObject {
     };
 
     [[nodiscard]] bool hasPlace() const;
+    [[nodiscard]] const Obs* observation() const;  // null without one
     [[nodiscard]] TimeShown timeToShow() const;
     [[nodiscard]] Instant nextReload() const;
     [[nodiscard]] std::optional<Instant> nextAppearance() const;

@@ -253,6 +253,17 @@ TEST_F(AppearanceScheduleTest, JumpOfADayReloadsAndFetchesOnlyWhatIsOfAge) {
     EXPECT_EQ(requests(), 1);
     EXPECT_NEAR(secondsToNext(), 12 * hour, 0.01) << "midnight; the document is of tomorrow";
     EXPECT_TRUE(age()->isHidden());
+
+    // By a document that is young at both times the rows follow the clock alone.
+    store(noon.addingSeconds(2 * day), noon);
+    restart();
+    setClock(noon.addingSeconds(day));
+    EXPECT_EQ(firstDay(), QStringLiteral("2015-06-02"));
+    EXPECT_EQ(age()->text(), QStringLiteral("24 h ago"));
+    setClock(noon);
+    EXPECT_EQ(firstDay(), QStringLiteral("2015-06-01"));
+    EXPECT_TRUE(age()->isHidden());
+    EXPECT_EQ(requests(), 1);
 }
 
 TEST_F(AppearanceScheduleTest, ResumeWithoutANetworkBeginsTheDelaysAnew) {
