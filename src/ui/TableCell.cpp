@@ -123,7 +123,7 @@ void TableCell::focusInEvent(QFocusEvent* event) {
 
 void TableCell::paintEvent(QPaintEvent* event) {
     View::paintEvent(event);
-    if (!showsFocus_ || !hasFocus())
+    if (!showsFocus())
         return;
     QPainter painter(this);
     paintFocusRing(painter, QRectF(rect()));

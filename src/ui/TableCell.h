@@ -39,6 +39,8 @@ class TableCell : public View, public NibObject {
     virtual void setSelected(bool selected, bool animated);
     [[nodiscard]] bool isHighlighted() const noexcept { return highlighted_; }
     [[nodiscard]] bool isSelected() const noexcept { return selected_; }
+    /// Whether it has the focus and shows it.
+    [[nodiscard]] bool showsFocus() const { return showsFocus_ && hasFocus(); }
 
     /// The cell takes it over, lies it below everything else and hides it until it is needed.
     void setSelectedBackgroundView(QWidget* view);

@@ -99,6 +99,7 @@ void TableView::layoutIfNeeded() {
 
 void TableView::reloadRows() {
     const int focused = rowWithFocus();
+    const bool ring = focused >= 0 && rows_[static_cast<std::size_t>(focused)]->showsFocus();
     pressedRow_ = -1;
     for (TableCell* cell : std::exchange(rows_, {}))
         recycle(cell);
@@ -109,7 +110,8 @@ void TableView::reloadRows() {
     moveToContentHeight(false);
     updateTabOrder();
     if (focused >= 0 && focused < count)
-        rows_[static_cast<std::size_t>(focused)]->setFocus(Qt::OtherFocusReason);
+        rows_[static_cast<std::size_t>(focused)]->setFocus(ring ? Qt::OtherFocusReason
+                                                                : Qt::NoFocusReason);
 }
 
 TableCell* TableView::displayedCell(int row) {
