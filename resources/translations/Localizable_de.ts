@@ -279,6 +279,11 @@
         <translation>Wind: %d Grad, %@</translation>
     </message>
     <message>
+        <source>Quit</source>
+        <extracomment>The tray icon's menu: ends the program.</extracomment>
+        <translation>Beenden</translation>
+    </message>
+    <message>
         <source>Show more...</source>
         <extracomment>Button below the rows.</extracomment>
         <translation>Mehr anzeigen...</translation>

@@ -279,6 +279,11 @@
         <translation>Wind:%d degrees %@</translation>
     </message>
     <message>
+        <source>Quit</source>
+        <extracomment>The tray icon's menu: ends the program.</extracomment>
+        <translation>Quit</translation>
+    </message>
+    <message>
         <source>Show more...</source>
         <extracomment>Button below the rows.</extracomment>
         <translation>Show more...</translation>

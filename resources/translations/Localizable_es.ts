@@ -279,6 +279,11 @@
         <translation>Viento: %d grados, %@</translation>
     </message>
     <message>
+        <source>Quit</source>
+        <extracomment>The tray icon's menu: ends the program.</extracomment>
+        <translation>Salir</translation>
+    </message>
+    <message>
         <source>Show more...</source>
         <extracomment>Button below the rows.</extracomment>
         <translation>Mostrar más...</translation>

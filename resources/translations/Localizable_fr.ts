@@ -279,6 +279,11 @@
         <translation>Vent&#xa0;: %d degrés, %@</translation>
     </message>
     <message>
+        <source>Quit</source>
+        <extracomment>The tray icon's menu: ends the program.</extracomment>
+        <translation>Quitter</translation>
+    </message>
+    <message>
         <source>Show more...</source>
         <extracomment>Button below the rows.</extracomment>
         <translation>Afficher plus...</translation>

@@ -279,6 +279,11 @@
         <translation>Vento: %d gradi, %@</translation>
     </message>
     <message>
+        <source>Quit</source>
+        <extracomment>The tray icon's menu: ends the program.</extracomment>
+        <translation>Esci</translation>
+    </message>
+    <message>
         <source>Show more...</source>
         <extracomment>Button below the rows.</extracomment>
         <translation>Mostra altro...</translation>

@@ -1,17 +1,18 @@
 #include "PanelApplication.h"
 
+#include <memory>
+
 #include <QApplication>
 #include <QImage>
 #include <QJsonDocument>
 #include <QPainter>
 
-#include "AppearanceSchedule.h"
 #include "DesktopContext.h"
 #include "FeedAddress.h"
-#include "PanelView.h"
-#include "PanelWindow.h"
+#include "LivePanel.h"
+#include "OnlyInstance.h"
+#include "PanelDisplay.h"
 #include "RowReport.h"
-#include "StartGuard.h"
 #include "TerminationSignals.h"
 #include "cells/Registration.h"
 #include "foundation/Log.h"
@@ -38,41 +39,32 @@ void followScheme(PanelOptions::Scheme scheme) {
 /// Everything that a panel consists of, in the order in which it comes to life.
 class Panel {
   public:
-    explicit Panel(const PanelOptions& options)
-        : options_(options),
-          guard_(StartGuard::defaultNoteFile(), UserDefaults::standard()),
-          controller_(feedAddress(options.feed, UserDefaults::standard(), ownServer_)),
-          view_(controller_) {
-        controller_.setExtensionContext(&context_);
-        if (options.expanded)
-            controller_.setShowingAll(true);
-        layOut();
-        guard_.started();
-    }
+    explicit Panel(const PanelOptions& options) : options_(options) { makeLive(options.expanded); }
 
-    int showWindow() {
-        PanelWindow window(controller_, view_, width());
-        AppearanceSchedule schedule(controller_);
-        window.appear();
-        schedule.panelAppeared();
+    int showUntilClosed(const OnlyInstance& instance) {
+        PanelDisplay display(width(), !options_.window);
+        display.hold(*live_);
+        display_ = &display;
+        QObject::connect(&instance, &OnlyInstance::shownAgain, &display, &PanelDisplay::show);
+        display.show();
         const int status = QApplication::exec();
-        if (window.isVisible())
-            window.close();
-        view_.setParent(nullptr);
+        display.hide();
+        display.letGo();
+        display_ = nullptr;
         UserDefaults::standard().synchronize();
         return status;
     }
 
     int report(QTextStream& out) {
-        controller_.viewWillAppear(false);
-        if (controller_.isRefreshing()) {
-            QObject::connect(&controller_, &TodayViewController::refreshed, qApp,
+        controller().viewWillAppear(false);
+        if (controller().isRefreshing()) {
+            QObject::connect(&controller(), &TodayViewController::refreshed, qApp,
                              [] { QApplication::exit(reported); });
             if (QApplication::exec() != reported)
                 return 1;
         }
         layOut();
-        const RowReport rows(controller_);
+        const RowReport rows(controller());
         if (options_.text)
             out << rows.text();
         if (options_.json)
@@ -86,16 +78,38 @@ class Panel {
     [[nodiscard]] int width() const { return qRound(options_.width); }
     [[nodiscard]] double scale() const { return options_.scale.value_or(qApp->devicePixelRatio()); }
 
-    void layOut() { view_.layOut(width(), scale()); }
+    [[nodiscard]] TodayViewController& controller() { return live_->controller(); }
+
+    void layOut() { live_->view().layOut(width(), scale()); }
+
+    void makeLive(bool expanded) {
+        live_ = std::make_unique<LivePanel>(
+            feedAddress(options_.feed, UserDefaults::standard(), ownServer_), context_,
+            LivePanel::Size{width(), scale()}, expanded);
+        // Queued, as the sender does not survive it.
+        QObject::connect(
+            live_.get(), &LivePanel::placeChanged, &receiver_, [this] { startOver(); },
+            Qt::QueuedConnection);
+    }
+
+    /// For another place, as at view load.
+    void startOver() {
+        if (display_ == nullptr)
+            return;
+        display_->letGo();
+        live_.reset();
+        makeLive(false);
+        display_->hold(*live_);
+    }
 
     int writePicture(const QString& file) {
-        const QSize size(width(), view_.panelHeight());
+        const QSize size(width(), live_->view().panelHeight());
         QImage picture((QSizeF(size) * scale()).toSize(), QImage::Format_ARGB32_Premultiplied);
         picture.setDevicePixelRatio(scale());
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
         PanelSurface::paintSurface(painter, QRectF({}, size), false);
-        view_.render(&painter, {}, {}, QWidget::DrawChildren);
+        live_->view().render(&painter, {}, {}, QWidget::DrawChildren);
         painter.end();
         if (picture.save(file, "PNG"))
             return 0;
@@ -104,11 +118,11 @@ class Panel {
     }
 
     const PanelOptions& options_;
-    StartGuard guard_;
     FeedChild ownServer_;
     DesktopContext context_;
-    TodayViewController controller_;
-    PanelView view_;
+    std::unique_ptr<LivePanel> live_;
+    QObject receiver_;
+    PanelDisplay* display_ = nullptr;  // while it is not only a report
 };
 
 }  // namespace
@@ -132,8 +146,10 @@ int runPanel(const PanelOptions& options, char* programName, QTextStream& out) {
     // The symbols take the screen's scale when the controller is made.
     Screen::setMain(QRectF(0.0, 0.0, options.width, 0.0),
                     options.scale.value_or(application.devicePixelRatio()));
-    Panel panel(options);
-    return options.reportsOnly() ? panel.report(out) : panel.showWindow();
+    if (options.reportsOnly())
+        return Panel(options).report(out);
+    const OnlyInstance instance;
+    return instance.isTaken() ? 0 : Panel(options).showUntilClosed(instance);
 }
 
 }  // namespace zephyrix

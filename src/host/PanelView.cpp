@@ -49,6 +49,12 @@ void PanelView::layOut(int width, double scale) {
     controller_.tableView()->layoutIfNeeded();
 }
 
+void PanelView::focusFirstRow() {
+    controller_.tableView()->layoutIfNeeded();
+    if (TableCell* row = controller_.tableView()->cellForRow({0, 0}))
+        row->setFocus(Qt::NoFocusReason);  // without the ring, until the keyboard is used
+}
+
 void PanelView::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     Screen::setMain(QRectF(rect()), Screen::main().scale());

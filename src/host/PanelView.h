@@ -21,6 +21,10 @@ class PanelView : public QWidget {
     /// Takes this width (points) and the panel's own height, and lays everything out, now. At
     /// another scale (pixels a point) the symbols are composed anew.
     void layOut(int width, double scale);
+    /// By keyboard and by screen reader, the panel begins there.
+    void focusFirstRow();
+    /// Who the weather comes from, as the panel says it; may be empty.
+    [[nodiscard]] QString source() const { return source_->text(); }
 
   Q_SIGNALS:
     void panelHeightChanged();

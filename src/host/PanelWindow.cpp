@@ -1,11 +1,8 @@
 #include "PanelWindow.h"
 
-#include <QCloseEvent>
-#include <QKeyEvent>
 #include <QPainter>
-#include <QWindow>
+#include <QResizeEvent>
 
-#include "RowReport.h"
 #include "foundation/Screen.h"
 #include "ui/PanelSurface.h"
 #include "ui/Theme.h"
@@ -18,26 +15,20 @@ constexpr int leastWidth = 320;  // points
 
 }  // namespace
 
-PanelWindow::PanelWindow(TodayViewController& controller, PanelView& view, int width)
-    : controller_(controller), view_(view) {
-    view_.setParent(this);
+PanelWindow::PanelWindow(int width) : PanelFrame(Qt::Window) {
     setMinimumWidth(leastWidth);
-    connect(&view_, &PanelView::panelHeightChanged, this, &PanelWindow::followPanel);
-    view_.layOut(width, devicePixelRatioF());
-    resize(width, view_.panelHeight());
-    followPanel();
+    resize(width, height());
 }
 
-void PanelWindow::appear() {
-    controller_.viewWillAppear(false);
-    show();
-    connect(windowHandle(), &QWindow::screenChanged, this,
-            [this] { view_.layOut(width(), devicePixelRatioF()); });
+void PanelWindow::embed(PanelView& view) {
+    view.setParent(this);
+    view.layOut(width(), devicePixelRatioF());
 }
 
 void PanelWindow::followPanel() {
-    setFixedHeight(view_.panelHeight());
-    const QString source = RowReport::source(controller_);
+    setFixedHeight(view()->panelHeight());
+    view()->setGeometry(rect());
+    const QString source = view()->source();
     const QString title = QStringLiteral("Zephyrix");
     setWindowTitle(source.isEmpty() ? title : QStringLiteral("%1 (%2)").arg(title, source));
 }
@@ -53,19 +44,8 @@ void PanelWindow::paintEvent(QPaintEvent* /*event*/) {
 void PanelWindow::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     Screen::setMain(QRectF(rect()), devicePixelRatioF());
-    view_.setGeometry(rect());
-}
-
-void PanelWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape)
-        close();
-    else
-        QWidget::keyPressEvent(event);
-}
-
-void PanelWindow::closeEvent(QCloseEvent* event) {
-    controller_.viewWillDisappear(false);
-    QWidget::closeEvent(event);
+    if (view() != nullptr)
+        view()->setGeometry(rect());
 }
 
 }  // namespace zephyrix

@@ -1,33 +1,22 @@
 #pragma once
 
-#include <QWidget>
-
-#include "PanelView.h"
+#include "PanelFrame.h"
 
 namespace zephyrix {
 
-/// A window around the panel, as high as the panel is. Closing it, also by Escape, makes the panel
-/// disappear.
-class PanelWindow : public QWidget {
+/// A window around the panel, with the desktop's frame.
+class PanelWindow : public PanelFrame {
     Q_OBJECT
 
   public:
-    PanelWindow(TodayViewController& controller, PanelView& view, int width);
-
-    /// The controller appears, then the window.
-    void appear();
+    /// Its first width, in points; the user may change it.
+    explicit PanelWindow(int width);
 
   protected:
+    void embed(PanelView& view) override;
+    void followPanel() override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
-
-  private:
-    void followPanel();
-
-    TodayViewController& controller_;
-    PanelView& view_;
 };
 
 }  // namespace zephyrix

@@ -1,0 +1,51 @@
+#include "LivePanel.h"
+
+#include <utility>
+
+namespace zephyrix {
+
+LivePanel::LivePanel(WeatherFeed::BaseAddress feed, ExtensionContext& context, const Size& size,
+                     bool expanded)
+    : guard_(StartGuard::defaultNoteFile(), UserDefaults::standard()),
+      controller_(std::move(feed)),
+      view_(controller_),
+      schedule_(controller_),
+      place_(storedPlace()) {
+    controller_.setExtensionContext(&context);
+    if (expanded)
+        controller_.setShowingAll(true);
+    view_.layOut(size.width, size.scale);
+    guard_.started();
+    connect(&controller_.sharedDefaults(), &UserDefaults::changedByOthers, this,
+            &LivePanel::takeNews);
+}
+
+void LivePanel::appear() {
+    if (std::exchange(inSight_, true))
+        return;
+    controller_.viewWillAppear(false);
+    schedule_.panelAppeared();
+}
+
+void LivePanel::disappear() {
+    if (!std::exchange(inSight_, false))
+        return;
+    controller_.viewWillDisappear(false);
+    schedule_.panelDisappeared();
+}
+
+QVariant LivePanel::storedPlace() const {
+    return controller_.sharedDefaults().object(QStringLiteral("location"));
+}
+
+void LivePanel::takeNews() {
+    if (storedPlace() != place_) {
+        Q_EMIT placeChanged();
+        return;
+    }
+    for (int row = 0; row < controller_.numberOfRowsInSection(0); ++row)
+        if (TableCell* cell = controller_.tableView()->cellForRow({row, 0}))
+            cell->setNeedsLayout();
+}
+
+}  // namespace zephyrix

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QObject>
+#include <QVariant>
+
+#include "AppearanceSchedule.h"
+#include "PanelView.h"
+#include "StartGuard.h"
+#include "widget/TodayViewController.h"
+
+namespace zephyrix {
+
+/// A panel for one place, from view load to its end: the guarded first layout, and what another
+/// program changes in the shared settings. New units show at once; for another place the host
+/// throws this panel away and makes a new one.
+class LivePanel : public QObject {
+    Q_OBJECT
+
+  public:
+    struct Size {
+        int width = 0;       // points
+        double scale = 1.0;  // device pixels a point
+    };
+
+    /// `expanded` begins with the forecast row, whatever the settings say. The context is not
+    /// owned.
+    LivePanel(WeatherFeed::BaseAddress feed, ExtensionContext& context, const Size& size,
+              bool expanded);
+
+    [[nodiscard]] TodayViewController& controller() noexcept { return controller_; }
+    [[nodiscard]] PanelView& view() noexcept { return view_; }
+
+    /// The panel comes into sight, and stays up to date there; it goes out of sight. Neither does
+    /// anything twice.
+    void appear();
+    void disappear();
+
+  Q_SIGNALS:
+    /// Another program chose another place, or changed this one, or none is chosen any more.
+    void placeChanged();
+
+  private:
+    [[nodiscard]] QVariant storedPlace() const;
+    void takeNews();
+
+    StartGuard guard_;
+    TodayViewController controller_;
+    PanelView view_;
+    AppearanceSchedule schedule_;
+    QVariant place_;
+    bool inSight_ = false;
+};
+
+}  // namespace zephyrix

@@ -1,0 +1,66 @@
+#include "PanelFrame.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QWindow>
+
+#include "foundation/Screen.h"
+
+namespace zephyrix {
+
+void PanelFrame::hold(PanelView& view) {
+    view_ = &view;
+    embed(view);
+    connect(&view, &PanelView::panelHeightChanged, this, [this] { followPanel(); });
+    followPanel();
+    view.show();
+    view.focusFirstRow();
+}
+
+void PanelFrame::letGo() {
+    if (!view_)
+        return;
+    view_->disconnect(this);
+    view_->setParent(nullptr);
+    view_.clear();
+}
+
+bool PanelFrame::event(QEvent* event) {
+    const bool done = QWidget::event(event);
+    if (event->type() == QEvent::Paint)
+        Q_EMIT painted();
+    return done;
+}
+
+void PanelFrame::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    connect(windowHandle(), &QWindow::screenChanged, this, &PanelFrame::followScreen,
+            Qt::UniqueConnection);
+}
+
+void PanelFrame::followScreen() {
+    if (view_ && Screen::main().scale() != devicePixelRatioF()) {
+        view_->layOut(view_->width(), devicePixelRatioF());
+        followPanel();
+    }
+}
+
+void PanelFrame::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void PanelFrame::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+        Q_EMIT minimized(isMinimized());
+}
+
+void PanelFrame::closeEvent(QCloseEvent* event) {
+    QWidget::closeEvent(event);
+    Q_EMIT closed();
+}
+
+}  // namespace zephyrix
