@@ -139,6 +139,7 @@ int runPanel(const PanelOptions& options, char* programName, QTextStream& out) {
     const QApplication application(count, arguments);
     QApplication::setApplicationName(QStringLiteral("zephyrix-panel"));
     QApplication::setApplicationDisplayName(QStringLiteral("Zephyrix"));
+    QApplication::setDesktopFileName(QStringLiteral("zephyrix-panel"));
     const TerminationSignals signalled;
     QObject::connect(&signalled, &TerminationSignals::received, qApp, [] { QApplication::quit(); });
     followScheme(options.scheme);

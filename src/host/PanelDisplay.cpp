@@ -12,6 +12,9 @@ namespace {
 // it. So soon after, closing was what the click was for.
 constexpr std::chrono::milliseconds oneClick{300};
 
+constexpr auto afterFirstPaint =
+    static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection);
+
 }  // namespace
 
 PanelDisplay::PanelDisplay(int width, bool useTray) : width_(width) {
@@ -143,6 +146,10 @@ PanelWindow& PanelDisplay::window() {
         window_ = std::make_unique<PanelWindow>(width_);
         connect(window_.get(), &PanelFrame::closed, this, &PanelDisplay::frameClosed);
         connect(window_.get(), &PanelFrame::minimized, this, &PanelDisplay::followWindow);
+        connect(
+            window_.get(), &PanelFrame::painted, qApp,
+            [] { QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zephyrix"))); },
+            afterFirstPaint);
     }
     return *window_;
 }
@@ -151,9 +158,7 @@ PanelPopup& PanelDisplay::popup() {
     if (!popup_) {
         popup_ = std::make_unique<PanelPopup>(width_);
         connect(popup_.get(), &PanelFrame::closed, this, &PanelDisplay::frameClosed);
-        // The icon is not part of the first paint.
-        connect(popup_.get(), &PanelFrame::painted, this, &PanelDisplay::addIcon,
-                Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+        connect(popup_.get(), &PanelFrame::painted, this, &PanelDisplay::addIcon, afterFirstPaint);
     }
     return *popup_;
 }
