@@ -155,8 +155,8 @@ void QKWindpfeil::buildSpeedLabel() {
     const double labelWidth = share * std::min(width(), height());
     const double labelHeight = share * height();
     auto* label = new Label(this);
-    label->setExactFrame({(width() - labelWidth) / 2.0, (height() - labelHeight) / 2.0, labelWidth,
-                          labelHeight});
+    label->setExactFrame(
+        {(width() - labelWidth) / 2.0, (height() - labelHeight) / 2.0, labelWidth, labelHeight});
     label->setAlignment(Qt::AlignCenter);
     label->setBackgroundColor(backgroundColor());
     label->setTextColor(Qt::white);
