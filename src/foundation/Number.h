@@ -37,8 +37,8 @@ class Number {
     [[nodiscard]] float floatValue() const noexcept;
     /// False only for zero.
     [[nodiscard]] bool boolValue() const noexcept;
-    /// Plain decimal text: "12345", "52.53"; the shortest that reads back as the same value. With an
-    /// exponent only below 0.0001 and from 10^17 on.
+    /// Plain decimal text: "12345", "52.53"; the shortest that reads back as the same value. With
+    /// an exponent only below 0.0001 and from 10^17 on.
     [[nodiscard]] QString text() const;
 
     [[nodiscard]] bool isSameObject(const Number& other) const noexcept {

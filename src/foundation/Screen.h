@@ -4,8 +4,8 @@
 
 namespace zephyrix {
 
-/// The screen as far as the panel is concerned: the area that the host gives to it. A narrower panel
-/// therefore has fewer columns, also on a wide monitor. Main thread.
+/// The screen as far as the panel is concerned: the area that the host gives to it. A narrower
+/// panel therefore has fewer columns, also on a wide monitor. Main thread.
 class Screen {
   public:
     /// What the host said last; 375 x 667 points at scale 1 before that.
