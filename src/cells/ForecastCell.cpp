@@ -125,13 +125,36 @@ void ForecastCell::configureCell(const std::optional<QVariantList>& days) {
     const UnitCode unit = defaults()->integer(QStringLiteral("temperature"));
     const int dayCount = dayCountForScreen();
     const int filled = std::min(dayCount, static_cast<int>(days->size()));
-    qDeleteAll(container()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+    emptyContainer();
     spokenDays_.clear();
     for (int index = 0; index < filled; ++index) {
         ForecastDayView* column = instantiateAndConfigureForecastDayViewForIndex(index, dayCount);
         if (column != nullptr)
             showDay(days->at(index).toMap(), *column, unit);
     }
+    qDeleteAll(spareColumns_);
+    spareColumns_.clear();
+}
+
+// A column is most of the cost of a pass. Those of the pass before are as good as new ones, for all
+// that they show is set again.
+void ForecastCell::emptyContainer() {
+    constexpr int noTag = 0;
+    const auto views = container()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* view : views) {
+        if (auto* const column = qobject_cast<ForecastDayView*>(view)) {
+            column->setTag(noTag);
+            spareColumns_.append(column);
+        } else {
+            delete view;
+        }
+    }
+}
+
+ForecastDayView* ForecastCell::newColumn() {
+    if (!spareColumns_.isEmpty())
+        return spareColumns_.takeFirst();
+    return qobject_cast<ForecastDayView*>(nib_.instantiate(container()));
 }
 
 void ForecastCell::showDay(const QVariantMap& day, ForecastDayView& column, UnitCode unit) {
@@ -166,7 +189,7 @@ ForecastDayView* ForecastCell::instantiateAndConfigureForecastDayViewForIndex(in
     const int tag = index | tagBits;
     ForecastDayView* column = columnWithTag(tag);
     if (column == nullptr) {
-        column = qobject_cast<ForecastDayView*>(nib_.instantiate(container()));
+        column = newColumn();
         if (column == nullptr)
             return nullptr;
         column->setTag(tag);
@@ -177,6 +200,7 @@ ForecastDayView* ForecastCell::instantiateAndConfigureForecastDayViewForIndex(in
                       static_cast<int>(std::round(width)), container()->height());
     // Days follow each other in the direction of reading.
     column->setGeometry(QStyle::visualRect(layoutDirection(), container()->rect(), frame));
+    activateLayouts(column);
     column->setBackgroundColor(Qt::transparent);
     column->separator()->setHidden(index == dayCount - 1);
     return column;

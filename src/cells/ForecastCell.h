@@ -65,6 +65,8 @@ class ForecastCell : public TableCell {
     [[nodiscard]] QString spokenText() const override;
 
   private:
+    void emptyContainer();
+    [[nodiscard]] ForecastDayView* newColumn();
     [[nodiscard]] ForecastDayView* columnWithTag(int tag) const;
     void showDay(const QVariantMap& day, ForecastDayView& column, UnitCode unit);
 
@@ -77,7 +79,8 @@ class ForecastCell : public TableCell {
     DateFormatter spokenDf_;  // whole names of days, for screen readers
     DateFormatter dayStringParser_;
     Nib nib_;
-    QStringList spokenDays_;  // of the columns on display
+    QList<ForecastDayView*> spareColumns_;  // during a pass: without a day, owned by the container
+    QStringList spokenDays_;                // of the columns on display
 };
 
 }  // namespace zephyrix

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QFocusEvent>
-#include <QLayout>
 #include <QPainter>
 
 #include "Fade.h"
@@ -15,17 +14,6 @@ namespace {
 QEvent::Type layoutPassEvent() {
     static const auto type = static_cast<QEvent::Type>(QEvent::registerEventType());
     return type;
-}
-
-// A view that was not shown yet gets no resize events, so its layout must be told its place.
-void activateLayouts(QWidget* view) {
-    if (QLayout* layout = view->layout(); layout != nullptr) {
-        layout->activate();
-        layout->setGeometry(view->contentsRect());
-    }
-    const auto children = view->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget* child : children)
-        activateLayouts(child);
 }
 
 }  // namespace

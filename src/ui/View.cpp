@@ -1,5 +1,6 @@
 #include "View.h"
 
+#include <QLayout>
 #include <QPainter>
 
 #include "PanelSurface.h"
@@ -20,6 +21,16 @@ void View::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     PanelSurface::fill(painter, *this,
                        around == nullptr ? backgroundColor_ : around->blended(backgroundColor_));
+}
+
+void activateLayouts(QWidget* view) {
+    if (QLayout* layout = view->layout(); layout != nullptr) {
+        layout->activate();
+        layout->setGeometry(view->contentsRect());
+    }
+    const auto children = view->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* child : children)
+        activateLayouts(child);
 }
 
 }  // namespace zephyrix

@@ -25,4 +25,8 @@ class View : public QWidget {
     QColor backgroundColor_ = Qt::transparent;
 };
 
+/// Brings the views that layouts arrange inside a view into their places now. A view that was not
+/// shown yet gets no resize events, so its layout must be told its place.
+void activateLayouts(QWidget* view);
+
 }  // namespace zephyrix
