@@ -13,13 +13,17 @@ bool isAddress(const QString& argument) {
            argument.contains(QLatin1String("://"));
 }
 
-void openAddress(const QString& address, QTextStream& out) {
+void checkAddress(const QString& address) {
     // As an address without a path may come with one, some desktops add the slash.
     const QUrl url = QUrl(address, QUrl::StrictMode).adjusted(QUrl::StripTrailingSlash);
     if (url != QUrl(QStringLiteral("zephyrix://widget")) &&
         url != QUrl(QStringLiteral("zephyrix://widget/")))
         throw CommandError::usage(
             QStringLiteral("\"%1\" is no address of this program").arg(address));
+}
+
+void openAddress(const QString& address, QTextStream& out) {
+    checkAddress(address);
     printPlace(out);
     out << '\n';
     printUnits(out);

@@ -8,6 +8,9 @@ namespace zephyrix {
 /// Whether an argument is an address that the desktop hands over, and no command.
 [[nodiscard]] bool isAddress(const QString& argument);
 
+/// Raises CommandError for an address that is not "zephyrix://widget".
+void checkAddress(const QString& address);
+
 /// Opens "zephyrix://widget", the address behind the panel's rows: shows the place and the units.
 /// Raises CommandError for any other address.
 void openAddress(const QString& address, QTextStream& out);
