@@ -46,6 +46,7 @@ void LivePanel::takeNews() {
     for (int row = 0; row < controller_.numberOfRowsInSection(0); ++row)
         if (TableCell* cell = controller_.tableView()->cellForRow({row, 0}))
             cell->setNeedsLayout();
+    Q_EMIT unitsChanged();
 }
 
 }  // namespace zephyrix

@@ -38,6 +38,8 @@ class LivePanel : public QObject {
   Q_SIGNALS:
     /// Another program chose another place, or changed this one, or none is chosen any more.
     void placeChanged();
+    /// Another program chose other units; they show with the next layout pass.
+    void unitsChanged();
 
   private:
     [[nodiscard]] QVariant storedPlace() const;

@@ -32,6 +32,7 @@ PanelDisplay::~PanelDisplay() {
 void PanelDisplay::hold(LivePanel& panel) {
     panel_ = &panel;
     connect(&panel.controller(), &TodayViewController::refreshed, this, &PanelDisplay::updateIcon);
+    connect(&panel, &LivePanel::unitsChanged, this, &PanelDisplay::updateIcon);
     if (frame_ != nullptr) {
         frame_->hold(panel.view());
         followWindow(frame_->isMinimized());
@@ -44,6 +45,7 @@ void PanelDisplay::letGo() {
         return;
     LivePanel& panel = *std::exchange(panel_, nullptr);
     panel.controller().disconnect(this);
+    panel.disconnect(this);
     if (frame_ == nullptr)
         return;
     frame_->letGo();
@@ -128,7 +130,7 @@ void PanelDisplay::followTray() {
 }
 
 void PanelDisplay::addIcon() {
-    if (icon_)
+    if (icon_ || !tray_->isPresent())
         return;
     icon_ = std::make_unique<TrayIcon>();
     connect(icon_.get(), &TrayIcon::clicked, this, &PanelDisplay::showAtCursor);
