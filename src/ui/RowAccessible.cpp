@@ -1,8 +1,6 @@
 #include "RowAccessible.h"
 
 #include <QAccessibleWidget>
-#include <QCoreApplication>
-#include <QKeyEvent>
 
 #include "TableCell.h"
 #include "TableView.h"
@@ -11,21 +9,38 @@ namespace zephyrix {
 
 namespace {
 
+TableView* tableAround(const QWidget* cell) {
+    QWidget* view = cell->parentWidget();
+    while (view != nullptr && qobject_cast<TableView*>(view) == nullptr)
+        view = view->parentWidget();
+    return qobject_cast<TableView*>(view);
+}
+
 class CellAccessible : public QAccessibleWidget {
   public:
-    explicit CellAccessible(QWidget* cell) : QAccessibleWidget(cell, QAccessible::ListItem) {}
+    explicit CellAccessible(TableCell* cell)
+        : QAccessibleWidget(cell, QAccessible::ListItem), cell_(cell) {}
 
+    // A cell that waits to be used again offers nothing.
     [[nodiscard]] QStringList actionNames() const override {
+        if (cell_->isHidden())
+            return {};
         return QStringList{pressAction()} + QAccessibleWidget::actionNames();
     }
 
     void doAction(const QString& name) override {
         if (name != pressAction())
             return QAccessibleWidget::doAction(name);
-        widget()->setFocus(Qt::OtherFocusReason);
-        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-        QCoreApplication::sendEvent(widget(), &press);
+        TableView* const table = tableAround(cell_);
+        if (table == nullptr || cell_->isHidden())
+            return;
+        cell_->setFocus(Qt::OtherFocusReason);
+        // Not by a key: in a window that is not active no row has the focus that would take it.
+        table->chooseCell(cell_);
     }
+
+  private:
+    TableCell* cell_;  // outlives its interface
 };
 
 QAccessibleInterface* rowInterface(const QString& /*className*/, QObject* object) {

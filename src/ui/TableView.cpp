@@ -173,6 +173,12 @@ void TableView::deleteRow(const IndexPath& path, RowAnimation animation) {
         recycle(cell);
 }
 
+void TableView::chooseCell(TableCell* cell) {
+    const auto row = std::ranges::find(rows_, cell);
+    if (row != rows_.end())
+        chooseRow(static_cast<int>(row - rows_.begin()));
+}
+
 void TableView::deselectRow(const IndexPath& path, bool animated) {
     if (TableCell* cell = cellForRow(path))
         cell->setSelected(false, animated);

@@ -52,6 +52,8 @@ class TableView : public View, public NibObject {
     void insertRow(const IndexPath& path, RowAnimation animation);
     void deleteRow(const IndexPath& path, RowAnimation animation);
 
+    /// As Return does with the row that has the focus. Nothing for a cell that is not on display.
+    void chooseCell(TableCell* cell);
     void deselectRow(const IndexPath& path, bool animated);
     /// Null for a row that is not on display.
     [[nodiscard]] TableCell* cellForRow(const IndexPath& path) const;

@@ -223,6 +223,29 @@ TEST_F(TableViewTest, IsAListOfPressableRowsForAssistivePrograms) {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(rows.button)->role(), QAccessible::Button);
 }
 
+TEST_F(TableViewTest, AssistiveProgramsPressTheRowTheyMeanAlsoWhileTheWindowIsNotActive) {
+    rows.texts << QStringLiteral("b");
+    show();
+    TableCell* second = rows.table.cellForRow({1, 0});
+    QAccessibleActionInterface* pressed =
+        QAccessible::queryAccessibleInterface(second)->actionInterface();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    pressed->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(rows.chosen, QList<int>{1});
+
+    rows.texts.removeLast();
+    rows.table.deleteRow({1, 0}, TableView::RowAnimation::None);
+    EXPECT_EQ(pressed->actionNames(), QStringList());
+    rows.table.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&rows.table));
+    rows.table.cellForRow({0, 0})->setFocus();
+    pressed->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(rows.chosen, QList<int>{1}) << "the cell is on no row";
+}
+
 TEST_F(TableViewTest, TheFooterCanBeTakenAway) {
     rows.table.layoutIfNeeded();
     const QPointer<TextButton> button = rows.button;
