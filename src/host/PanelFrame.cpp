@@ -1,5 +1,6 @@
 #include "PanelFrame.h"
 
+#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QWindow>
@@ -7,6 +8,25 @@
 #include "foundation/Screen.h"
 
 namespace zephyrix {
+
+namespace {
+
+// A plain widget has the role of a mere area, also where it is a window.
+QAccessibleInterface* windowInterface(const QString& /*className*/, QObject* object) {
+    auto* const frame = qobject_cast<PanelFrame*>(object);
+    return frame == nullptr ? nullptr : new QAccessibleWidget(frame, QAccessible::Window);
+}
+
+void installWindowAccessibility() {
+    static const bool installed = (QAccessible::installFactory(windowInterface), true);
+    Q_UNUSED(installed);
+}
+
+}  // namespace
+
+PanelFrame::PanelFrame(Qt::WindowFlags flags) : QWidget(nullptr, flags) {
+    installWindowAccessibility();
+}
 
 void PanelFrame::hold(PanelView& view) {
     view_ = &view;

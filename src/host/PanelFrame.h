@@ -13,7 +13,7 @@ class PanelFrame : public QWidget {
     Q_OBJECT
 
   public:
-    explicit PanelFrame(Qt::WindowFlags flags) : QWidget(nullptr, flags) {}
+    explicit PanelFrame(Qt::WindowFlags flags);
 
     /// Takes the panel in. It must leave by letGo() before either of them ends.
     void hold(PanelView& view);
