@@ -39,7 +39,9 @@ void TableCell::layoutIfNeeded() {
         return;
     needsLayout_ = false;
     layoutSubviews();
-    setAccessibleName(spokenText());
+    // Each setting is told to assistive programs, also where the name stays.
+    if (const QString spoken = spokenText(); spoken != accessibleName())
+        setAccessibleName(spoken);
 }
 
 void TableCell::layoutSubviews() {
