@@ -19,6 +19,7 @@ constexpr int sourceInset = 12;   // points on each side
 PanelView::PanelView(TodayViewController& controller)
     : controller_(controller), source_(new Label(this)) {
     controller_.tableView()->setParent(this);
+    source_->raise();  // assistive programs read it after the table
     source_->setTextStyle(Theme::TextStyle::Unit);
     source_->setAlignment(Qt::AlignRight | Qt::AlignTop);
     connect(controller_.tableView(), &TableView::contentHeightChanged, this, [this] {
