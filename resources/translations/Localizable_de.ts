@@ -458,5 +458,15 @@
         <extracomment>Behind the time of an observation that is old; %1 is a number of hours, 2 or more. Little room: hours as a short unit.</extracomment>
         <translation>vor %1 h</translation>
     </message>
+    <message>
+        <source>Place</source>
+        <extracomment>The place whose weather is shown, in front of its name.</extracomment>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <extracomment>In front of the units to choose from.</extracomment>
+        <translation>Temperatur</translation>
+    </message>
 </context>
 </TS>

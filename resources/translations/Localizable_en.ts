@@ -458,5 +458,15 @@
         <extracomment>Behind the time of an observation that is old; %1 is a number of hours, 2 or more. Little room: hours as a short unit.</extracomment>
         <translation>%1 h ago</translation>
     </message>
+    <message>
+        <source>Place</source>
+        <extracomment>The place whose weather is shown, in front of its name.</extracomment>
+        <translation>Place</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <extracomment>In front of the units to choose from.</extracomment>
+        <translation>Temperature</translation>
+    </message>
 </context>
 </TS>

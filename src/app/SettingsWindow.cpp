@@ -7,6 +7,7 @@
 #include "Command.h"
 #include "PlaceCommand.h"
 #include "SharedSettings.h"
+#include "foundation/Bundle.h"
 #include "foundation/Log.h"
 
 namespace zephyrix {
@@ -27,8 +28,15 @@ QString placeText() {
     return lines.join(QLatin1Char('\n'));
 }
 
-QString capitalized(const QString& word) {
-    return word.left(1).toUpper() + word.mid(1);
+QString localized(const QString& key) {
+    return Bundle::main().localizedString(key);
+}
+
+/// "wind" is the key of a setting, "Wind" that of its translation.
+QString nameOf(const QuantityUnits& quantity) {
+    QString key = quantity.name.toString();
+    key[0] = key.at(0).toUpper();
+    return localized(key);
 }
 
 }  // namespace
@@ -37,12 +45,12 @@ SettingsWindow::SettingsWindow() : settings_(openSharedSettings()), place_(new Q
     setWindowTitle(QStringLiteral("Zephyrix"));
     auto* const form = new QFormLayout(this);
     place_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    form->addRow(QStringLiteral("Place"), place_);
+    form->addRow(localized(QStringLiteral("Place")), place_);
     for (const QuantityUnits& quantity : allQuantities)
         if (quantity.isSetting)
             addChoice(quantity);
     for (const UnitChoice& choice : choices_) {
-        form->addRow(capitalized(choice.quantity->name.toString()), choice.box);
+        form->addRow(nameOf(*choice.quantity), choice.box);
         connect(choice.box, &QComboBox::activated, this, [this, choice] { store(choice); });
     }
     showStored();
@@ -53,7 +61,7 @@ void SettingsWindow::addChoice(const QuantityUnits& quantity) {
     auto* const box = new QComboBox(this);
     box->setObjectName(quantity.name.toString());
     for (const Unit& unit : quantity.units)
-        box->addItem(unit.text.toString(), static_cast<qlonglong>(unit.code));
+        box->addItem(localized(unit.text.toString()), static_cast<qlonglong>(unit.code));
     choices_.push_back({&quantity, box});
 }
 
