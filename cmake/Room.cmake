@@ -52,5 +52,5 @@ function(zephyrix_test name)
     # what happens inside of it is left out. Races in this project's own code are all reported.
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 300
-        ENVIRONMENT "TSAN_OPTIONS=halt_on_error=1:ignore_noninstrumented_modules=1")
+        ENVIRONMENT "TSAN_OPTIONS=halt_on_error=1:ignore_noninstrumented_modules=1:die_after_fork=0")
 endfunction()

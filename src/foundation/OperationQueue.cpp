@@ -5,9 +5,10 @@
 namespace zephyrix {
 
 OperationQueue::~OperationQueue() {
-    // The worker ends as the first of the members: asked to stop, then waited for.
     const std::lock_guard lock(mutex_);
     ending_ = true;
+    added_.notify_one();
+    // The worker is waited for as the first of the members.
 }
 
 void OperationQueue::addOperation(std::function<void()> operation) {
@@ -16,17 +17,17 @@ void OperationQueue::addOperation(std::function<void()> operation) {
         return;
     waiting_.push_back(std::move(operation));
     if (!worker_.joinable())
-        worker_ = std::jthread([this](const std::stop_token& stop) { work(stop); });
+        worker_ = std::jthread([this] { work(); });
     added_.notify_one();
 }
 
-void OperationQueue::work(const std::stop_token& stop) {
+void OperationQueue::work() {
     while (true) {
         std::function<void()> operation;
         {
             std::unique_lock lock(mutex_);
-            added_.wait(lock, stop, [this] { return !waiting_.empty(); });
-            if (stop.stop_requested())
+            added_.wait(lock, [this] { return ending_ || !waiting_.empty(); });
+            if (ending_)
                 return;
             operation = std::move(waiting_.front());
             waiting_.pop_front();

@@ -4,7 +4,6 @@
 #include <deque>
 #include <functional>
 #include <mutex>
-#include <stop_token>
 #include <thread>
 
 namespace zephyrix {
@@ -26,10 +25,10 @@ class OperationQueue {
     void addOperation(std::function<void()> operation);
 
   private:
-    void work(const std::stop_token& stop);
+    void work();
 
     std::mutex mutex_;
-    std::condition_variable_any added_;
+    std::condition_variable added_;  // something was added, or the queue ends
     std::deque<std::function<void()>> waiting_;
     bool ending_ = false;
     std::jthread worker_;  // last: it must end before what it uses
