@@ -49,8 +49,7 @@ function(zephyrix_test name)
         SOURCE_DIR="${CMAKE_SOURCE_DIR}")
     add_test(NAME ${name} COMMAND ${name})
     # The system's Qt is built without the thread sanitizer, which cannot see how its threads hand over:
-    # what other libraries call is left out, waits inside of the standard library among it. So a report
-    # on something that a mutex guards may be a false alarm: look at the code before believing it.
+    # what other libraries call is left out. tests/support/ThreadSanitizer.h tells what it cannot judge.
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 300
         ENVIRONMENT "TSAN_OPTIONS=halt_on_error=1:ignore_noninstrumented_modules=1:die_after_fork=0")
