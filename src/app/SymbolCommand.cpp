@@ -120,8 +120,7 @@ QImage sheet(const SymbolSheetOptions& look) {
 QImage symbol(qlonglong code, const SymbolSheetOptions& look) {
     QKCompoundSymbol symbols;
     symbols.setWinscale(look.scale);
-    const QImage image =
-        symbols.symbolForCode(Number(code), QSizeF(look.size, look.size), look.date);
+    QImage image = symbols.symbolForCode(Number(code), QSizeF(look.size, look.size), look.date);
     if (image.isNull())
         throw CommandError::usage(QStringLiteral("that is less than a pixel"));
     return image;

@@ -76,10 +76,9 @@ QString spokenWind(const Obs& record, UnitCode unit) {
 QString spokenPrecipitation(const Obs& record, UnitCode unit) {
     if (!record.rrr || record.rrr->integerValue() < 0)
         return {};
-    const QString amount =
-        localized("precipitation %1 %2")
-            .arg(MeteoMapping::formattedPrecipitationString(record.rrr, unit, true),
-                 unitName(precipitationUnits, unit));
+    QString amount = localized("precipitation %1 %2")
+                         .arg(MeteoMapping::formattedPrecipitationString(record.rrr, unit, true),
+                              unitName(precipitationUnits, unit));
     const std::int64_t hours = isMissing(record.rrrh) ? 0 : record.rrrh->integerValue();
     if (hours <= 0)
         return amount;

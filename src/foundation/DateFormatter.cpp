@@ -17,18 +17,22 @@ icu::UnicodeString toIcu(const QString& text) {
     return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<int32_t>(text.size())};
 }
 
+std::unique_ptr<icu::DateFormat> formatOf(const QString& pattern, const icu::Locale& locale) {
+    UErrorCode status = U_ZERO_ERROR;
+    auto format = std::make_unique<icu::SimpleDateFormat>(toIcu(pattern), locale, status);
+    if (U_FAILURE(status) != 0)
+        fatalError(QStringLiteral("no date format \"%1\": %2")
+                       .arg(pattern, QString::fromLatin1(u_errorName(status))));
+    return format;
+}
+
 }  // namespace
 
 /// ICU's format for one pattern or pair of styles in one locale.
 class DateFormatter::Writer {
   public:
-    Writer(const QString& pattern, const icu::Locale& locale) {
-        UErrorCode status = U_ZERO_ERROR;
-        format_ = std::make_unique<icu::SimpleDateFormat>(toIcu(pattern), locale, status);
-        if (U_FAILURE(status) != 0)
-            fatalError(QStringLiteral("no date format \"%1\": %2")
-                           .arg(pattern, QString::fromLatin1(u_errorName(status))));
-    }
+    Writer(const QString& pattern, const icu::Locale& locale)
+        : format_(formatOf(pattern, locale)) {}
 
     Writer(icu::DateFormat::EStyle date, icu::DateFormat::EStyle time, const icu::Locale& locale)
         : format_(icu::DateFormat::createDateTimeInstance(date, time, locale)) {

@@ -11,8 +11,11 @@ namespace zephyrix {
 
 namespace {
 
+struct Free {
+    void operator()(void* reply) const noexcept { std::free(reply); }
+};
 template <class Reply>
-using Owned = std::unique_ptr<Reply, decltype([](Reply* reply) { std::free(reply); })>;
+using Owned = std::unique_ptr<Reply, Free>;
 
 bool hasSelectionOwner(xcb_connection_t* display, std::string_view name) {
     const auto question =

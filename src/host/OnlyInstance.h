@@ -26,7 +26,7 @@ class OnlyInstance : public QObject {
     void shownAgain();
 
   private:
-    [[nodiscard]] bool showOther(const QString& socket);
+    [[nodiscard]] static bool showOther(const QString& socket);
     void listen(const QString& socket);
     void welcome();
 

@@ -1,5 +1,6 @@
 #include "PanelApplication.h"
 
+#include <array>
 #include <memory>
 
 #include <QApplication>
@@ -134,9 +135,9 @@ int runPanel(const PanelOptions& options, char* programName, QTextStream& out) {
     }
     if (!hasDisplay())
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    char* arguments[] = {programName, nullptr};
+    std::array<char*, 2> arguments{programName, nullptr};
     int count = 1;
-    const QApplication application(count, arguments);
+    const QApplication application(count, arguments.data());
     QApplication::setApplicationName(QStringLiteral("zephyrix-panel"));
     QApplication::setApplicationDisplayName(QStringLiteral("Zephyrix"));
     QApplication::setDesktopFileName(QStringLiteral("zephyrix-panel"));

@@ -62,7 +62,7 @@ PanelOptions::Scheme schemeNamed(const QString& name) {
 }
 
 QString feedAddress(const QString& given) {
-    const QString address = given.endsWith(QLatin1Char('/')) ? given : given + QLatin1Char('/');
+    QString address = given.endsWith(QLatin1Char('/')) ? given : given + QLatin1Char('/');
     if (!FeedRequest::isFeedAddress(QUrl(address, QUrl::StrictMode)))
         throw PanelOptions::Error(
             QStringLiteral("--feed takes an http or https address, not \"%1\"").arg(given));

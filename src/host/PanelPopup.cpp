@@ -26,6 +26,14 @@ Qt::WindowFlags popupFlags() {
            (isWayland() ? Qt::Window : Qt::Popup);
 }
 
+/// Trays are on the right; what the desktop keeps for itself says whether above or below.
+QPoint trayCorner() {
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    const QRect available = screen->availableGeometry();
+    const bool below = screen->geometry().bottom() > available.bottom();
+    return below ? available.bottomRight() : available.topRight();
+}
+
 QScreen* screenAt(const QPoint& point) {
     QScreen* const screen = QGuiApplication::screenAt(point);
     return screen == nullptr ? QGuiApplication::primaryScreen() : screen;
@@ -36,7 +44,7 @@ QScreen* screenAt(const QPoint& point) {
 PanelPopup::PanelPopup(int width) : PanelFrame(popupFlags()), width_(width) {
     setAttribute(Qt::WA_TranslucentBackground);
     setWindowTitle(QStringLiteral("Zephyrix"));
-    anchorAtCorner();
+    anchor_ = trayCorner();
 }
 
 void PanelPopup::anchorAtCursor() {
@@ -46,11 +54,7 @@ void PanelPopup::anchorAtCursor() {
 }
 
 void PanelPopup::anchorAtCorner() {
-    const QScreen* const screen = QGuiApplication::primaryScreen();
-    const QRect available = screen->availableGeometry();
-    // Trays are on the right; what the desktop keeps for itself says whether above or below.
-    const bool below = screen->geometry().bottom() > available.bottom();
-    anchor_ = below ? available.bottomRight() : available.topRight();
+    anchor_ = trayCorner();
     if (view() != nullptr)
         followPanel();
 }

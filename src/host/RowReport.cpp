@@ -95,7 +95,7 @@ QStringList observationLines(const QJsonObject& row) {
 
 QStringList forecastLines(const QJsonObject& row) {
     QStringList lines;
-    for (const QJsonValue& day : row.value(QLatin1String("days")).toArray())
+    for (const QJsonValue day : row.value(QLatin1String("days")).toArray())
         lines << QStringLiteral("%1  %2 / %3")
                      .arg(day[QLatin1String("day")].toString(), -4)
                      .arg(day[QLatin1String("high")].toString(),
@@ -127,7 +127,7 @@ RowReport::RowReport(TodayViewController& controller) {
 
 QString RowReport::text() const {
     QStringList lines;
-    for (const QJsonValue& row : report_.value(QLatin1String("rows")).toArray())
+    for (const QJsonValue row : report_.value(QLatin1String("rows")).toArray())
         lines << linesFor(row.toObject());
     const QString source = report_.value(QLatin1String("source")).toString();
     if (!source.isEmpty())

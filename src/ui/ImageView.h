@@ -31,7 +31,7 @@ class ImageView : public QWidget {
     /// Degrees, clockwise on the screen.
     virtual void setRotation(double degrees);
 
-    [[nodiscard]] QSizeF boundsSize() const { return QSizeF(size()); }
+    [[nodiscard]] QSizeF boundsSize() const { return {size()}; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;

@@ -124,9 +124,9 @@ QWidget* Nib::instantiate(QWidget* parent) const {
     return root;
 }
 
-void Nib::registerClass(const char* qualifiedName, Factory factory) {
+void Nib::registerClass(const char* qualifiedName, const Factory& factory) {
     const QString name = QString::fromLatin1(qualifiedName);
-    factories().insert(name.section(QStringLiteral("::"), -1), std::move(factory));
+    factories().insert(name.section(QStringLiteral("::"), -1), factory);
 }
 
 }  // namespace zephyrix

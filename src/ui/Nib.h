@@ -54,7 +54,7 @@ class Nib {
     /// Makes the class known to descriptions under its plain name, without namespace.
     template <class T>
     static void registerClass();
-    static void registerClass(const char* qualifiedName, Factory factory);
+    static void registerClass(const char* qualifiedName, const Factory& factory);
 
   private:
     QString name_;

@@ -71,7 +71,7 @@ QRectF PanelSurface::surfaceArea() const {
 QRegion PanelSurface::maskRegion() const {
     QPainterPath path;
     path.addRoundedRect(surfaceArea(), Theme::surfaceRadius, Theme::surfaceRadius);
-    return QRegion(path.toFillPolygon().toPolygon());
+    return {path.toFillPolygon().toPolygon()};
 }
 
 void PanelSurface::placeContent() {

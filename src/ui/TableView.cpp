@@ -202,10 +202,15 @@ void TableView::setFooterView(QWidget* footer) {
     moveToContentHeight(false);
 }
 
+double TableView::rowHeight(int row) const {
+    Q_ASSERT(controller_ != nullptr);  // without one there are no rows
+    return controller_->heightForRowAtIndexPath({row, 0});
+}
+
 double TableView::rowsHeight() const {
     double height = 0.0;
     for (int row = 0; row < static_cast<int>(rows_.size()); ++row)
-        height += controller_->heightForRowAtIndexPath({row, 0});
+        height += rowHeight(row);
     return height;
 }
 
@@ -216,7 +221,7 @@ double TableView::footerHeight() const {
 void TableView::placeRows() {
     double top = 0.0;
     for (int row = 0; row < static_cast<int>(rows_.size()); ++row) {
-        const double height = controller_->heightForRowAtIndexPath({row, 0});
+        const double height = rowHeight(row);
         TableCell* cell = cellForRow({row, 0});
         cell->setGeometry(0, qRound(top), width(), qRound(height));
         cell->setNeedsLayout();

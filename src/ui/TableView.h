@@ -93,6 +93,7 @@ class TableView : public View, public NibObject {
     void placeRows();
     void setContentHeight(double height);
     void moveToContentHeight(bool animated);
+    [[nodiscard]] double rowHeight(int row) const;
     [[nodiscard]] double rowsHeight() const;
     [[nodiscard]] double footerHeight() const;
     [[nodiscard]] int rowAt(const QPointF& position) const;

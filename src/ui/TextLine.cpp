@@ -68,11 +68,11 @@ QString TextLine::elided(const QString& text, const QFont& font, Figures figures
         return text;
     // Tabular figures are wider than the font's own: ask for a little less until it fits.
     const QFontMetricsF metrics(font);
-    QString shorter;
-    for (double room = width; room > 0.0; room -= 2.0) {
+    double room = width;
+    QString shorter = metrics.elidedText(text, Qt::ElideRight, room);
+    while (room > 2.0 && TextLine(shorter, font, figures).width() > width) {
+        room -= 2.0;
         shorter = metrics.elidedText(text, Qt::ElideRight, room);
-        if (TextLine(shorter, font, figures).width() <= width)
-            break;
     }
     return shorter;
 }

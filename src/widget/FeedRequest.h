@@ -21,7 +21,7 @@ namespace zephyrix {
 struct FeedLimits {
     std::chrono::milliseconds silence{20'000};  // without a byte, counted from the request on
     std::chrono::milliseconds total{60'000};    // for the whole answer, however it trickles
-    qint64 bytes = 8 * 1024 * 1024;             // of the body, after decompression
+    qint64 bytes = qint64{8} << 20;             // of the body, after decompression
     int redirects = 16;
 };
 

@@ -57,7 +57,6 @@ class TodayViewController : public TableViewController {
 
     /// The only way to make one is with its layout, "TodayViewController", and a feed.
     explicit TodayViewController(WeatherFeed::BaseAddress feed, const FeedLimits& limits = {});
-    TodayViewController() = delete;
     ~TodayViewController() override;
 
     void connectOutlets() override;

@@ -13,9 +13,9 @@ namespace zephyrix {
 namespace {
 
 QUrl addressFor(const QString& base, const Number& locationID) {
-    return QUrl(base + QLatin1String("zephyrix/") + QLatin1String("WeatherFeed.php") +
-                    QLatin1String("?lid=") + locationID.text() + QLatin1String("&json=1&widget=1"),
-                QUrl::StrictMode);
+    return {base + QLatin1String("zephyrix/") + QLatin1String("WeatherFeed.php") +
+                QLatin1String("?lid=") + locationID.text() + QLatin1String("&json=1&widget=1"),
+            QUrl::StrictMode};
 }
 
 }  // namespace
