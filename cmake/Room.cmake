@@ -10,8 +10,9 @@ function(zephyrix_room folder)
     add_library(${target} STATIC ${room_SOURCES})
     add_library(Zephyrix::${folder} ALIAS ${target})
     zephyrix_own_include_root(${folder} root)
-    target_include_directories(${target} PUBLIC "${root}")
-    target_link_libraries(${target} PUBLIC ${room_USES} PRIVATE zephyrix_compiler)
+    target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${root}>")
+    target_link_libraries(${target}
+        PUBLIC ${room_USES} PRIVATE "$<BUILD_INTERFACE:zephyrix_compiler>")
 endfunction()
 
 # Makes a folder that holds nothing but a link to src/<folder>, and gives its path back.
