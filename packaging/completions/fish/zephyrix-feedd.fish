@@ -1,0 +1,12 @@
+set -l scenarios changing fair clear-night rain thunderstorm snow fog gale polar-day polar-night \
+    missing no-observation no-forecast
+complete -c zephyrix-feedd -f
+complete -c zephyrix-feedd -l port -x -d 'The port, 0 for any free one'
+complete -c zephyrix-feedd -l scenario -x -a "$scenarios" -d 'The kind of weather'
+complete -c zephyrix-feedd -l latitude -x -d 'One place for every id, north positive'
+complete -c zephyrix-feedd -l longitude -x -d 'One place for every id, east positive'
+complete -c zephyrix-feedd -l zone -x -a '(timedatectl list-timezones 2>/dev/null)' \
+    -d 'Time zone of that place'
+complete -c zephyrix-feedd -l end-with-input -d 'End when standard input ends'
+complete -c zephyrix-feedd -l help -d 'List the options'
+complete -c zephyrix-feedd -l version -d 'Print the version'

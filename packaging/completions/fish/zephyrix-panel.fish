@@ -1,0 +1,12 @@
+complete -c zephyrix-panel -f
+complete -c zephyrix-panel -l window -d 'A window, also where a tray could show the panel'
+complete -c zephyrix-panel -l text -d 'Print what the panel shows, and end'
+complete -c zephyrix-panel -l json -d 'Print what the panel shows as one JSON object, and end'
+complete -c zephyrix-panel -l snapshot -rF -d 'Write a picture of the panel, and end'
+complete -c zephyrix-panel -l expanded -d 'Begin with the forecast'
+complete -c zephyrix-panel -l width -x -d 'Width in points, 320 to 2000'
+complete -c zephyrix-panel -l scale -x -d 'Pixels a point of the picture, 0.5 to 8'
+complete -c zephyrix-panel -l scheme -x -a 'light dark' -d 'Colours of the panel'
+complete -c zephyrix-panel -l feed -x -a 'http:// https://' -d 'Address of the feed server'
+complete -c zephyrix-panel -l help -d 'List the options'
+complete -c zephyrix-panel -l version -d 'Print the version'
