@@ -1,4 +1,5 @@
-# How every target is compiled: the language, the warnings (all of them errors), the sanitizers, ccache.
+# How every target is compiled: the language, the warnings (all of them errors), ccache, and either the
+# sanitizers or the hardening.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -25,4 +26,22 @@ if(ZEPHYRIX_SANITIZE)
     add_compile_options(-fsanitize=${ZEPHYRIX_SANITIZE} -fno-omit-frame-pointer
                         -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${ZEPHYRIX_SANITIZE})
+    return()
 endif()
+
+# What an attacker would need is taken from every program: fixed addresses, a writable table of
+# functions, an unguarded or executable stack. In daily builds too, so that their tests show it. The
+# sanitizers find more, and would be in the way of it.
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+set(ZEPHYRIX_HARDENING -fstack-protector-strong -fstack-clash-protection)
+if(CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64")
+    list(APPEND ZEPHYRIX_HARDENING -fcf-protection)
+endif()
+# The checks of buffer sizes need an optimiser.
+string(TOUPPER "CMAKE_CXX_FLAGS_${CMAKE_BUILD_TYPE}" flags_of_this_build)
+if("${CMAKE_CXX_FLAGS} ${${flags_of_this_build}}" MATCHES "-O[123s]")
+    list(APPEND ZEPHYRIX_HARDENING -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+endif()
+add_compile_options(${ZEPHYRIX_HARDENING})
+add_link_options(-Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)

@@ -98,8 +98,8 @@ TEST(SettingsProcesses, AKillInMidWriteTearsNothingAndStallsNobody) {
             for (int count = 0;; ++count) {
                 store->set(QStringLiteral("count"), count);
                 store->set(QStringLiteral("load"), QString(100 * (count % 500), QLatin1Char('x')));
-                if (store->synchronize() && count == 0)
-                    static_cast<void>(::write(ready[1], "x", 1));
+                if (store->synchronize() && count == 0 && ::write(ready[1], "x", 1) != 1)
+                    return;
             }
         });
         ::close(ready[1]);
