@@ -21,6 +21,7 @@ namespace zephyrix {
 namespace {
 
 constexpr mode_t ownerOnly = 0600;
+constexpr mode_t others = 0077;
 
 QString reason(int error) {
     return QString::fromStdString(std::generic_category().message(error));
@@ -47,7 +48,8 @@ class Descriptor {
 /// A lock that the kernel drops when its holder ends, however it ends.
 class Lock {
   public:
-    explicit Lock(const QString& path) : file_(path, O_RDONLY | O_CREAT | O_NOFOLLOW) {
+    // A pipe in place of the file does not hold the program.
+    explicit Lock(const QString& path) : file_(path, O_RDONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK) {
         error_ = file_.isOpen() ? wait() : errno;
     }
     /// 0 when the lock is held.
@@ -87,6 +89,8 @@ RawFile readRaw(const QString& path) {
         return {QByteArray(), errno};
     if (!S_ISREG(status.st_mode))
         return {QByteArray(), S_ISDIR(status.st_mode) ? EISDIR : EINVAL};
+    if (status.st_uid == ::geteuid() && (status.st_mode & others) != 0)
+        static_cast<void>(::fchmod(file.get(), ownerOnly));  // as another program wrote it
 
     RawFile result{QByteArray(""), 0};
     while (result.bytes.size() <= PropertyList::mostBytes) {
@@ -105,7 +109,7 @@ RawFile readRaw(const QString& path) {
 
 /// 0, or the error of the first call that failed.
 int writeRaw(const QString& path, const QByteArray& bytes) {
-    const Descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW);
+    const Descriptor file(path, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_NONBLOCK);
     if (!file.isOpen() || ::fchmod(file.get(), ownerOnly) != 0)
         return errno;
     for (qsizetype done = 0; done < bytes.size();) {

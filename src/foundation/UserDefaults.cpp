@@ -2,15 +2,11 @@
 
 #include <algorithm>
 #include <map>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 
 #include <QBasicTimer>
 #include <QCoreApplication>
-#include <QDir>
 #include <QEvent>
-#include <QFile>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
 #include <QMetaMethod>
@@ -19,6 +15,7 @@
 
 #include "Log.h"
 #include "Number.h"
+#include "PrivateFolder.h"
 #include "PropertyList.h"
 #include "SettingsFile.h"
 
@@ -36,14 +33,6 @@ constexpr int lastRetry = 64000;
 QString settingsFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
            QStringLiteral("/zephyrix");
-}
-
-/// Makes the folder where it is missing, for its owner only. False when it is not there to be read.
-bool prepareFolder(const QString& folder) {
-    const QByteArray name = QFile::encodeName(folder);
-    QDir().mkpath(QFileInfo(folder).path());
-    ::mkdir(name.constData(), 0700);
-    return QFileInfo(folder).isDir() && ::access(name.constData(), R_OK | X_OK) == 0;
 }
 
 bool isPlainFileName(const QString& name) {
@@ -83,7 +72,7 @@ UserDefaults& UserDefaults::standard() {
 }
 
 std::unique_ptr<UserDefaults> UserDefaults::suite(const QString& name) {
-    if (!isPlainFileName(name) || !prepareFolder(settingsFolder())) {
+    if (!isPlainFileName(name) || !makePrivateFolder(settingsFolder())) {
         logLine(QStringLiteral("the settings suite \"%1\" cannot be opened in %2")
                     .arg(name, settingsFolder()));
         return nullptr;
@@ -152,7 +141,7 @@ void UserDefaults::change(const QString& key, const QVariant& value) {
 
 bool UserDefaults::synchronize() {
     if (!d_->changes.isEmpty())
-        prepareFolder(QFileInfo(fileName()).path());
+        makePrivateFolder(QFileInfo(fileName()).path());
     const auto content = d_->changes.isEmpty() ? d_->file.load() : d_->file.merge(d_->changes);
     if (!content) {
         if (!d_->changes.isEmpty() && QCoreApplication::instance()) {

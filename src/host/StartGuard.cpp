@@ -7,12 +7,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 
 #include "foundation/Log.h"
+#include "foundation/PrivateFolder.h"
 
 namespace zephyrix {
 
@@ -41,7 +41,7 @@ void moveDocumentAside(UserDefaults& settings) {
 }  // namespace
 
 StartGuard::StartGuard(const QString& noteFile, UserDefaults& panelSettings) {
-    QDir().mkpath(QFileInfo(noteFile).path());
+    makePrivateFolder(QFileInfo(noteFile).path());
     const int file = ::open(QFile::encodeName(noteFile).constData(), O_RDWR | O_CREAT | O_CLOEXEC,
                             S_IRUSR | S_IWUSR);
     if (file < 0) {

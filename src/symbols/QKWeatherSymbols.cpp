@@ -5,14 +5,13 @@
 
 #include <QCache>
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
 #include <QStandardPaths>
 
 #include "foundation/Bundle.h"
 #include "foundation/Description.h"
 #include "foundation/Log.h"
 #include "foundation/Number.h"
+#include "foundation/PrivateFolder.h"
 #include "foundation/Screen.h"
 #include "foundation/UserDefaults.h"
 #include "symbols/ImageResize.h"
@@ -62,11 +61,6 @@ SymbolFileWriter& fileWriter() {
     }();
     Q_UNUSED(waits)
     return writer;
-}
-
-QString childFolderForThisUser(const QString& parent, const QString& name) {
-    QDir(parent).mkdir(name, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    return parent + QLatin1Char('/') + name;
 }
 
 bool isPlainFileName(const QString& name) {
@@ -153,12 +147,12 @@ std::optional<QString> QKWeatherSymbols::symbolBundle() {
 QString QKWeatherSymbols::documentsDir() {
     auto& folder = kept().folder;
     if (folder.isEmpty()) {
-        const QString caches =
-            QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
-        QDir().mkpath(caches);
-        folder =
-            childFolderForThisUser(childFolderForThisUser(caches, QStringLiteral("zephyrix-panel")),
-                                   QStringLiteral("symbolCache"));
+        const QString panel =
+            QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+            QStringLiteral("/zephyrix-panel");
+        folder = panel + QStringLiteral("/symbolCache");
+        makePrivateFolder(panel);
+        makePrivateFolder(folder);
     }
     return folder;
 }

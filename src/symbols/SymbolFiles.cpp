@@ -17,6 +17,7 @@ constexpr int largestSide = 4096;  // pixels
 constexpr double largestScale = 16.0;
 // Of Qt's 0 (smallest file) to 100: a third of the default's time for a file a little larger.
 constexpr int pngQuality = 80;
+constexpr auto ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 
 QByteArray pngFormat() {
     return QByteArrayLiteral("png");
@@ -42,7 +43,7 @@ void writeFile(const QImage& image, const QString& path) {
         return;  // a pipe would make us wait
     const QByteArray bytes = encoded(image);
     QFile file(path);
-    if (bytes.isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+    if (bytes.isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::Unbuffered, ownerOnly))
         return;
     if (file.write(bytes) != bytes.size())
         file.remove();

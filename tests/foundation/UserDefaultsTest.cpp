@@ -104,7 +104,11 @@ TEST_F(UserDefaultsTest, ChangesOfOneTurnAreOneWriteAtTheNext) {
     EXPECT_EQ(QFileInfo(store->fileName()).lastModified(), written) << "nothing new to write";
 }
 
-TEST_F(UserDefaultsTest, FilesAreTheOwnersAlone) {
+TEST_F(UserDefaultsTest, FilesAreTheOwnersAloneAlsoThoseThatOthersMade) {
+    QDir().mkpath(folder_.path());
+    testing::overwrite(folder_.path() + QStringLiteral("/group.Zephyrix.plist"),
+                       "<plist><dict/></plist>");
+    ASSERT_TRUE(QFileInfo(folder_.path()).permissions() & QFile::ReadOther);
     openSuite()->set(city, 1);
     const auto others = ~(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner |
                           QFileDevice::ReadUser | QFileDevice::WriteUser | QFileDevice::ExeUser);
