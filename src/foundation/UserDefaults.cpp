@@ -6,6 +6,7 @@
 
 #include <QBasicTimer>
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QEvent>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
@@ -44,6 +45,15 @@ QString storePath(const QString& name) {
     return settingsFolder() + QLatin1Char('/') + name + QStringLiteral(".plist");
 }
 
+/// What reading and writing a date needs of Qt is made by the first one, and must be made before
+/// the stores of the process: what is made later ends earlier, and a store that is written at the
+/// very end would take its own file for damaged.
+bool makeDatesFirst() {
+    const QDateTime any = QDateTime::fromSecsSinceEpoch(0, Qt::UTC);
+    const auto bytes = PropertyList::write({{QStringLiteral("date"), any}});
+    return PropertyList::read(bytes.value_or(QByteArray())).has_value();
+}
+
 }  // namespace
 
 class UserDefaults::Private {
@@ -61,6 +71,8 @@ class UserDefaults::Private {
 };
 
 UserDefaults& UserDefaults::standard() {
+    static const bool datesAreMade = makeDatesFirst();
+    Q_UNUSED(datesAreMade)
     static std::map<QString, std::unique_ptr<UserDefaults>> stores;
     const QString application = QCoreApplication::applicationName();
     const QString path =
