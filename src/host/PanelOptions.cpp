@@ -29,7 +29,8 @@ constexpr std::array options{
     OptionRow{"width", "W", "the panel's width in points, 320 to 2000 (440)"},
     OptionRow{"scale", "S", "the picture's pixels a point, 0.5 to 8 (the screen's)"},
     OptionRow{"scheme", "NAME", "light or dark (the desktop's)"},
-    OptionRow{"feed", "URL", "the feed server's address, http or https"},
+    OptionRow{"feed", "URL", "the feed server's address, https unless it says http"},
+    OptionRow{"allow-plain-http", nullptr, "also a feed on another machine without encryption"},
     OptionRow{"help", nullptr, "this text"},
     OptionRow{"version", nullptr, "the version"},
 };
@@ -61,8 +62,8 @@ PanelOptions::Scheme schemeNamed(const QString& name) {
     throw PanelOptions::Error(QStringLiteral("--scheme is light or dark, not \"%1\"").arg(name));
 }
 
-QString feedAddress(const QString& given) {
-    QString address = given.endsWith(QLatin1Char('/')) ? given : given + QLatin1Char('/');
+QString feedAddressFrom(const QString& given) {
+    QString address = completeFeedAddress(given);
     if (!FeedRequest::isFeedAddress(QUrl(address, QUrl::StrictMode)))
         throw PanelOptions::Error(
             QStringLiteral("--feed takes an http or https address, not \"%1\"").arg(given));
@@ -87,6 +88,7 @@ PanelOptions PanelOptions::parse(const QStringList& arguments) {
     asked.text = isSet("text");
     asked.json = isSet("json");
     asked.expanded = isSet("expanded");
+    asked.feed.allowPlainHttp = isSet("allow-plain-http");
     if (asked.text && asked.json)
         throw Error(QStringLiteral("--text and --json cannot be printed together"));
     if (isSet("snapshot"))
@@ -98,7 +100,7 @@ PanelOptions PanelOptions::parse(const QStringList& arguments) {
     if (isSet("scheme"))
         asked.scheme = schemeNamed(parser.value(QStringLiteral("scheme")));
     if (isSet("feed"))
-        asked.feed = feedAddress(parser.value(QStringLiteral("feed")));
+        asked.feed.address = feedAddressFrom(parser.value(QStringLiteral("feed")));
     return asked;
 }
 

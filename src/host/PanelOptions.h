@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "FeedAddress.h"
+
 namespace zephyrix {
 
 /// What the command line of `zephyrix-panel` asks for.
@@ -23,7 +25,7 @@ struct PanelOptions {
     double width = 440.0;             // of the panel, in points
     std::optional<double> scale;      // device pixels a point; the screen's unless given
     Scheme scheme = Scheme::Desktop;
-    QString feed;  // the feed server's base address, ends with "/"; empty when not given
+    FeedChoice feed;
 
     /// Whether the panel reports and ends, without appearing on a screen.
     [[nodiscard]] bool reportsOnly() const noexcept { return text || json || snapshot; }

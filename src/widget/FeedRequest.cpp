@@ -3,6 +3,7 @@
 #include <memory>
 #include <utility>
 
+#include <QHostAddress>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
@@ -36,6 +37,15 @@ bool isStatusError(const QNetworkReply& reply) {
             error < QNetworkReply::UnknownContentError);
 }
 
+/// A redirect must not lead an answer, or the question for it, where others can read it.
+bool isAsSafe(const QUrl& from, const QUrl& to) {
+    if (to.scheme() == QLatin1String("https"))
+        return true;
+    const bool sameMachine = from.host() == to.host() ||
+                             (FeedRequest::isThisMachine(from) && FeedRequest::isThisMachine(to));
+    return from.scheme() == QLatin1String("http") && sameMachine;
+}
+
 }  // namespace
 
 FeedRequest::FeedRequest(QNetworkAccessManager& network, const QUrl& address,
@@ -63,6 +73,11 @@ bool FeedRequest::isFeedAddress(const QUrl& address) {
     const QString scheme = address.scheme();
     return address.isValid() && !address.host().isEmpty() &&
            (scheme == QLatin1String("http") || scheme == QLatin1String("https"));
+}
+
+bool FeedRequest::isThisMachine(const QUrl& address) {
+    return address.host() == QLatin1String("localhost") ||
+           QHostAddress(address.host()).isLoopback();
 }
 
 void FeedRequest::send(const QUrl& address) {
@@ -114,8 +129,7 @@ std::optional<FeedError> FeedRequest::redirectError(const QUrl& from, const QUrl
     if (++redirects_ > limits_.redirects)
         return FeedError{FeedError::transportDomain, QNetworkReply::TooManyRedirectsError,
                          QStringLiteral("The feed redirects again and again")};
-    const bool lessSafe = from.scheme() == QLatin1String("https") && to.scheme() != from.scheme();
-    if (!isFeedAddress(to) || lessSafe)
+    if (!isFeedAddress(to) || !isAsSafe(from, to))
         return FeedError{FeedError::transportDomain, QNetworkReply::InsecureRedirectError,
                          QStringLiteral("The feed redirects to %1").arg(to.toDisplayString())};
     return std::nullopt;

@@ -25,8 +25,10 @@ struct FeedLimits {
     int redirects = 16;
 };
 
-/// One GET of the feed, past every cache. Status, headers and content type of the answer are not
-/// examined: whatever body arrives whole is the answer, also that of a 404.
+/// One GET of the feed, past every cache, by https with every check of the certificate. A redirect
+/// is followed to https, and from plain http to plain http on the same machine; to nothing else.
+/// Status, headers and content type of the answer are not examined: whatever body arrives whole is
+/// the answer, also that of a 404.
 ///
 /// Destroyed before the end, it closes the connection and its handler is never called. The network
 /// must outlive it. Main thread.
@@ -44,6 +46,8 @@ class FeedRequest : public QObject {
 
     /// Whether a feed may live there: http or https, with a host.
     [[nodiscard]] static bool isFeedAddress(const QUrl& address);
+    /// Whether nobody else hears what is said to that address: "localhost", 127.0.0.0/8, ::1.
+    [[nodiscard]] static bool isThisMachine(const QUrl& address);
 
   private:
     void send(const QUrl& address);

@@ -17,17 +17,18 @@ PanelOptions parse(const char* line) {
 TEST(PanelOptions, AreReadFromTheCommandLine) {
     const PanelOptions none = parse("");
     EXPECT_FALSE(none.reportsOnly() || none.window || none.expanded || none.scale);
-    EXPECT_TRUE(none.feed.isEmpty());
+    EXPECT_TRUE(none.feed.address.isEmpty());
 
     const PanelOptions all = parse(
         "--text --snapshot p.png --expanded --width 320 --scale=1.25 --scheme dark "
-        "--feed http://127.0.0.1:8080");
+        "--feed http://127.0.0.1:8080 --allow-plain-http");
     EXPECT_TRUE(all.reportsOnly() && all.text && all.expanded);
     EXPECT_EQ(all.snapshot, QStringLiteral("p.png"));
     EXPECT_EQ(all.width, 320);
     EXPECT_EQ(all.scale, 1.25);
     EXPECT_EQ(all.scheme, PanelOptions::Scheme::Dark);
-    EXPECT_EQ(all.feed, QStringLiteral("http://127.0.0.1:8080/"));
+    EXPECT_EQ(all.feed.address, QStringLiteral("http://127.0.0.1:8080/"));
+    EXPECT_TRUE(all.feed.allowPlainHttp && !none.feed.allowPlainHttp);
 }
 
 struct BadLine {
@@ -47,7 +48,7 @@ TEST(PanelOptions, BadOnesAreNamed) {
         BadLine{"--scale 0", "--scale"},
         BadLine{"--scheme pink", "pink"},
         BadLine{"--feed file:///etc/passwd", "file:///etc/passwd"},
-        BadLine{"--feed example.org", "example.org"},
+        BadLine{"--feed mailto:a@example.org", "mailto:"},
     };
     for (const BadLine& bad : lines) {
         try {

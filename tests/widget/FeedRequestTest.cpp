@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QNetworkAccessManager>
+#include <QNetworkReply>
 #include <QPointer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -125,8 +126,12 @@ TEST_F(FeedRequestTest, RedirectIsFollowedToAnotherFeedOnly) {
     expectTransportError("loop");
     EXPECT_EQ(server_.requestLines().size() - before, limits_.redirects + 1);
 
-    server_.answerWith(redirect(QStringLiteral("file:///etc/hostname")));
-    expectTransportError("to a file");
+    for (const char* elsewhere :
+         {"file:///etc/hostname", "http://example.org/", "ftp://127.0.0.1/"}) {
+        server_.answerWith(redirect(QLatin1String(elsewhere)));
+        expectTransportError(elsewhere);
+        EXPECT_EQ(results_.front().error->code, QNetworkReply::InsecureRedirectError) << elsewhere;
+    }
 }
 
 TEST_F(FeedRequestTest, SilenceAndTricklesAreGivenUp) {
