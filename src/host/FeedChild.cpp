@@ -1,8 +1,13 @@
 #include "FeedChild.h"
 
+#include <array>
+#include <linux/close_range.h>
+#include <sys/prctl.h>
+#include <unistd.h>
 #include <utility>
 
 #include <QCoreApplication>
+#include <QProcessEnvironment>
 
 #include "foundation/Log.h"
 
@@ -11,6 +16,27 @@ namespace zephyrix {
 namespace {
 
 constexpr int endingTime = 1000;  // milliseconds that the server has to end in
+
+// PATH is not among them: the server starts no program. The last ones tell a program of a build
+// tree with libraries of its own, or with sanitizers, how to run.
+constexpr std::array passedOn{
+    "HOME", "XDG_CONFIG_HOME", "LANG",         "LANGUAGE",      "LC_ALL",       "LC_MESSAGES",
+    "TZ",   "TZDIR",           "ASAN_OPTIONS", "UBSAN_OPTIONS", "TSAN_OPTIONS", "LD_LIBRARY_PATH",
+};
+
+QProcessEnvironment smallEnvironment() {
+    QProcessEnvironment small;
+    for (const char* name : passedOn)
+        if (qEnvironmentVariableIsSet(name))
+            small.insert(QLatin1String(name), qEnvironmentVariable(name));
+    return small;
+}
+
+/// In the child, between fork and exec.
+void keepStandardFilesOnly() {
+    ::close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
+    ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
+}
 
 }  // namespace
 
@@ -41,6 +67,9 @@ void FeedChild::address(Then then) {
 void FeedChild::start() {
     process_ = std::make_unique<QProcess>();
     process_->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process_->setProcessEnvironment(smallEnvironment());
+    process_->setChildProcessModifier(keepStandardFilesOnly);
+    process_->setWorkingDirectory(QStringLiteral("/"));
     connect(process_.get(), &QProcess::readyReadStandardOutput, this, &FeedChild::readPort);
     connect(process_.get(), &QProcess::finished, this,
             [this] { ended(QStringLiteral("it has ended")); });

@@ -16,6 +16,9 @@ namespace zephyrix {
 /// The feed server that the panel starts for itself, on loopback, when no other is named. It runs
 /// from the first address() on until this object ends. When the panel's process dies in another
 /// way, the server sees the end of its standard input and ends too. Main thread.
+///
+/// It gets no more than it needs: of the environment what says where the shared settings lie, the
+/// language and the zone; of the open files its three standard ones; no right to gain others.
 class FeedChild : public QObject {
     Q_OBJECT
 

@@ -1,13 +1,17 @@
+#include <fcntl.h>
 #include <memory>
 #include <optional>
+#include <unistd.h>
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QTcpSocket>
 #include <QUrl>
 #include <gtest/gtest.h>
 
 #include "host/FeedChild.h"
 #include "support/LoopbackServer.h"
+#include "support/ScopedEnvironment.h"
 #include "support/TestHome.h"
 
 namespace zephyrix {
@@ -22,13 +26,17 @@ QString addressFrom(FeedChild& feed) {
     return base.value_or(QString());
 }
 
+QString script(const QByteArray& commands) {
+    QFile file(freshFolder() + QStringLiteral("/feed"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("#!/bin/sh\n" + commands);
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return file.fileName();
+}
+
 /// A program that prints this line and then waits.
 QString programPrinting(const char* line) {
-    QFile script(freshFolder() + QStringLiteral("/feed"));
-    EXPECT_TRUE(script.open(QIODevice::WriteOnly));
-    script.write(QByteArray("#!/bin/sh\necho '") + line + "'\nread nothing\n");
-    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    return script.fileName();
+    return script(QByteArray("echo '") + line + "'\nread nothing\n");
 }
 
 bool listens(const QString& base) {
@@ -44,6 +52,35 @@ TEST(FeedChild, RunsFromTheFirstNeedToItsEnd) {
     EXPECT_EQ(addressFrom(*feed), base);
     feed.reset();
     EXPECT_FALSE(listens(base));
+}
+
+TEST(FeedChild, GetsNoMoreThanItNeeds) {
+    const ScopedEnvironment ours{{"TZ", "Asia/Tokyo"}, {"SSH_AUTH_SOCK", "/nowhere"}};
+    const int inherited = ::fcntl(STDERR_FILENO, F_DUPFD, 50);  // deliberately not close-on-exec
+    ASSERT_GE(inherited, 50);
+    const QString told = freshFolder() + QStringLiteral("/told");
+    FeedChild feed(
+        script(QStringLiteral("ls /proc/$$/fd > %1; tr '\\0' '\\n' < /proc/$$/environ >> %1\n"
+                              "grep NoNewPrivs /proc/$$/status >> %1\n"
+                              "readlink /proc/$$/cwd >> %1; echo 4711; read nothing\n")
+                   .arg(told)
+                   .toUtf8()));
+    addressFrom(feed);
+    ::close(inherited);
+    QFile file(told);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QList<QByteArray> lines = file.readAll().trimmed().split('\n');
+    EXPECT_EQ(lines.takeLast(), "/");
+    EXPECT_EQ(lines.takeLast(), "NoNewPrivs:\t1");
+    for (const char* needed : {"TZ=Asia/Tokyo", "LANG=en_US.UTF-8"})
+        EXPECT_TRUE(lines.removeOne(needed)) << needed;
+    for (const QByteArray& line : lines) {
+        static const QRegularExpression harmless(
+            // From 10 on come the files of the shell itself.
+            QStringLiteral(
+                "^([0-2]|1[0-9]|(HOME|XDG_CONFIG_HOME|[A-Z]+SAN_OPTIONS|LD_LIBRARY_PATH)=.*)$"));
+        EXPECT_TRUE(harmless.match(QString::fromUtf8(line)).hasMatch()) << line.toStdString();
+    }
 }
 
 TEST(FeedChild, ProgramThatGivesNoPortGivesNoAddress) {
