@@ -1,6 +1,7 @@
 #include "OpenAddress.h"
 
-#include <QUrl>
+#include <algorithm>
+#include <array>
 
 #include "Command.h"
 #include "PlaceCommand.h"
@@ -8,16 +9,23 @@
 
 namespace zephyrix {
 
+namespace {
+
+// Byte for byte, whatever else would mean the same. Some desktops add the slash.
+constexpr std::array forms{"zephyrix://widget", "zephyrix://widget/"};
+
+}  // namespace
+
 bool isAddress(const QString& argument) {
     return argument.startsWith(QLatin1String("zephyrix:"), Qt::CaseInsensitive) ||
            argument.contains(QLatin1String("://"));
 }
 
 void checkAddress(const QString& address) {
-    // As an address without a path may come with one, some desktops add the slash.
-    const QUrl url = QUrl(address, QUrl::StrictMode).adjusted(QUrl::StripTrailingSlash);
-    if (url != QUrl(QStringLiteral("zephyrix://widget")) &&
-        url != QUrl(QStringLiteral("zephyrix://widget/")))
+    const bool isOwn = std::any_of(forms.begin(), forms.end(), [&](const char* form) {
+        return address == QLatin1String(form);
+    });
+    if (!isOwn)
         throw CommandError::usage(
             QStringLiteral("\"%1\" is no address of this program").arg(address));
 }

@@ -123,6 +123,14 @@ TEST_F(CommandLine, BadInputIsToldAndLeavesTheStoreAsItWas) {
              Case{"units altitude ft", "altitude"},  // no setting of the panel
              Case{"zephyrix://place", "zephyrix://place"},
              Case{"http://widget", "http://widget"},
+             Case{"zephyrix://WIDGET", "zephyrix://WIDGET"},
+             Case{"zephyrix://widget?place=7", "no address"},
+             Case{"zephyrix://widget#", "no address"},
+             Case{"zephyrix://user@widget", "no address"},
+             Case{"zephyrix://widget//", "no address"},
+             Case{"zephyrix://widget/../set", "no address"},
+             Case{"zephyrix://%77idget", "no address"},
+             Case{"zephyrix:widget", "no address"},
          }) {
         const Outcome outcome = run(c.line);
         EXPECT_EQ(outcome.exitCode, 2) << c.line;
