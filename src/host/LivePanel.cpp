@@ -2,20 +2,26 @@
 
 #include <utility>
 
+#include <QFontMetrics>
+
+#include "foundation/Log.h"
+
 namespace zephyrix {
 
 LivePanel::LivePanel(WeatherFeed::BaseAddress feed, ExtensionContext& context, const Size& size,
-                     bool expanded)
+                     bool expanded, std::unique_ptr<WakeSource> wakes)
     : guard_(StartGuard::defaultNoteFile(), UserDefaults::standard()),
       controller_(std::move(feed)),
       view_(controller_),
-      schedule_(controller_),
+      schedule_(controller_, std::move(wakes)),
       place_(storedPlace()) {
     controller_.setExtensionContext(&context);
     if (expanded)
         controller_.setShowingAll(true);
     view_.layOut(size.width, size.scale);
     guard_.started();
+    if (!view_.fontMetrics().inFont(QLatin1Char('A')))  // boxes stand in for letters
+        logLine(QStringLiteral("no font is installed: texts cannot be read"));
     connect(&controller_.sharedDefaults(), &UserDefaults::changedByOthers, this,
             &LivePanel::takeNews);
 }

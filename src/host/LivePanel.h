@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include <QObject>
 #include <QVariant>
 
@@ -23,9 +25,9 @@ class LivePanel : public QObject {
     };
 
     /// `expanded` begins with the forecast row, whatever the settings say. The context is not
-    /// owned.
+    /// owned. Without a source of wake-ups of its own it uses the system's.
     LivePanel(WeatherFeed::BaseAddress feed, ExtensionContext& context, const Size& size,
-              bool expanded);
+              bool expanded, std::unique_ptr<WakeSource> wakes = nullptr);
 
     [[nodiscard]] TodayViewController& controller() noexcept { return controller_; }
     [[nodiscard]] PanelView& view() noexcept { return view_; }

@@ -2,12 +2,14 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
 #include <QLatin1String>
 
 #include "MeteoDB.h"
 #include "MeteoMapping.h"
 #include "astro/SunCalculations.h"
+#include "foundation/Log.h"
 #include "foundation/TimeZone.h"
 
 namespace zephyrix {
@@ -45,15 +47,23 @@ sqlite3_stmt*& cachedStatement() {
     return statement;
 }
 
+/// What ships with the program is not all there: told once, though each lookup tries again.
+void tellOnce(const QString& problem) {
+    static bool told = false;
+    if (!std::exchange(told, true))
+        logLine(QStringLiteral("the weather has no words: meteoDB.sqlite: %1").arg(problem));
+}
+
 /// Prepared at the first lookup that can; null while there is no usable database.
 sqlite3_stmt* lookupStatement() {
     sqlite3_stmt*& statement = cachedStatement();
     sqlite3* const connection = MeteoDB::sharedManager().dbConnection();
-    if (!statement && connection) {
-        sqlite3_prepare_v2(
+    if (statement || !connection)
+        return statement;
+    if (sqlite3_prepare_v2(
             connection, "SELECT * from t_list_mapping where id_map =? and n = ? and ww = ? limit 1",
-            -1, &statement, nullptr);
-    }
+            -1, &statement, nullptr) != SQLITE_OK)
+        tellOnce(QString::fromUtf8(sqlite3_errmsg(connection)));
     return statement;
 }
 
