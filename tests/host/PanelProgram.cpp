@@ -23,7 +23,7 @@ void PanelProgram::start(QProcess& process, const QStringList& arguments) const 
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XDG_CACHE_HOME"), home_ + QStringLiteral("/cache"));
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(PROGRAM_DIR "/zephyrix-panel"), arguments);
+    process.start(command_.first(), command_.mid(1) + arguments);
 }
 
 PanelProgram::Result PanelProgram::run(const QStringList& arguments) {
@@ -34,9 +34,15 @@ PanelProgram::Result PanelProgram::run(const QStringList& arguments) {
             process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
-void PanelProgram::choosePlace() const {
-    UserDefaults::suite(QStringLiteral("group.Zephyrix"))
-        ->set(QStringLiteral("location"), LocationResult::defaultSearchResult().asDict());
+void PanelProgram::choosePlace(qlonglong id) const {
+    QVariantMap place = LocationResult::defaultSearchResult().asDict();
+    if (id != 0)
+        place.insert(QStringLiteral("uid"), id);
+    UserDefaults::suite(QStringLiteral("group.Zephyrix"))->set(QStringLiteral("location"), place);
+}
+
+QVariant PanelProgram::sharedSetting(const QString& key) const {
+    return UserDefaults::suite(QStringLiteral("group.Zephyrix"))->object(key);
 }
 
 QVariant PanelProgram::setting(const QString& key) const {

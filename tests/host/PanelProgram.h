@@ -26,7 +26,13 @@ class PanelProgram {
     /// Starts it without a display that anyone sees.
     void start(QProcess& process, const QStringList& arguments) const;
 
-    void choosePlace() const;
+    /// Another program file than that of the build, or one that runs it: "unshare --mount ...".
+    void runAs(const QStringList& command) { command_ = command; }
+
+    /// The built-in place, under another id if one is given.
+    void choosePlace(qlonglong id = 0) const;
+    /// A value of the settings that all programs share.
+    [[nodiscard]] QVariant sharedSetting(const QString& key) const;
     /// A value of the panel's own settings, read anew from the file.
     [[nodiscard]] QVariant setting(const QString& key) const;
     void setSetting(const QString& key, const QVariant& value) const;
@@ -34,6 +40,7 @@ class PanelProgram {
 
   private:
     QString home_;
+    QStringList command_{QStringLiteral(PROGRAM_DIR "/zephyrix-panel")};
 };
 
 }  // namespace zephyrix::testing

@@ -1,0 +1,177 @@
+// What can be missing or change around the panel, one surrounding at a time.
+#include <memory>
+#include <sys/stat.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QImage>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "AgedPanel.h"
+#include "host/XDisplay.h"
+#include "support/ScopedEnvironment.h"
+#include "support/TestHome.h"
+
+namespace zephyrix {
+namespace {
+
+using namespace zephyrix::testing;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+class Surroundings : public AgedPanel {
+  protected:
+    /// From here on, the program is a copy of its own with other data beside it; their folder.
+    QString copyProgram() {
+        const QString root = freshFolder();
+        QDir(root).mkpath(QStringLiteral("bin"));
+        QDir(root).mkpath(QStringLiteral("share/zephyrix"));
+        const QString program = root + QStringLiteral("/bin/zephyrix-panel");
+        EXPECT_TRUE(QFile::copy(QStringLiteral(PROGRAM_DIR "/zephyrix-panel"), program));
+        panel_.runAs({program});
+        return root + QStringLiteral("/share/zephyrix");
+    }
+    static void write(const QString& path, const QByteArray& bytes) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+    static QByteArray shippedDatabase() {
+        QFile file(QStringLiteral(PROGRAM_DIR "/../share/zephyrix/meteoDB.sqlite"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+};
+
+struct Database {
+    const char* what;
+    QByteArray bytes;  // null for no file
+    const char* told;  // null for nothing: a page that cannot be read is no news
+};
+
+TEST_F(Surroundings, WithoutItsDataThePanelShowsAllButTheWords) {
+    EXPECT_THAT(report().out.toStdString(), HasSubstr("ain")) << "rain, in words";
+    const QString data = copyProgram();
+    const QByteArray shipped = shippedDatabase();
+    for (const Database& row : {
+             Database{"missing", {}, "no such table"},
+             Database{"empty", "", "no such table"},
+             Database{"no database", QByteArray(100000, 'x'), "not a database"},
+             Database{"cut in its middle", shipped.left(shipped.size() / 2), "malformed"},
+             Database{"cut in its first page", shipped.left(1000), "malformed"},
+         }) {
+        SCOPED_TRACE(row.what);
+        if (!row.bytes.isNull())
+            write(data + QStringLiteral("/meteoDB.sqlite"), row.bytes);
+        panel_.setSetting(QStringLiteral("symbolSet"), 1);  // its images are not there either
+        const auto result = report();
+        EXPECT_EQ(result.exitCode, 0);
+        EXPECT_THAT(result.out.toStdString(), HasSubstr("21°C\n"));
+        const auto lines = troubles(result.err);
+        ASSERT_EQ(lines.size(), 1) << result.err.toStdString();
+        EXPECT_THAT(lines.first().toStdString(), HasSubstr(row.told));
+    }
+}
+
+TEST_F(Surroundings, WithoutFontsItTellsAndGoesOn) {
+    const QString folder = freshFolder();
+    write(folder + QStringLiteral("/fonts.conf"), "<?xml version='1.0'?><fontconfig><cachedir>" +
+                                                      folder.toUtf8() + "</cachedir></fontconfig>");
+    const QByteArray file = (folder + QStringLiteral("/fonts.conf")).toUtf8();
+    const ScopedEnvironment none{{"FONTCONFIG_FILE", file.constData()}};
+    const QString picture = folder + QStringLiteral("/panel.png");
+    const auto result = panel_.run({QStringLiteral("--text"), QStringLiteral("--snapshot"), picture,
+                                    QStringLiteral("--feed"), server_.baseAddress()});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_THAT(result.out.toStdString(), HasSubstr("21°C"));
+    EXPECT_FALSE(QImage(picture).isNull());
+    ASSERT_EQ(troubles(result.err).size(), 1) << result.err.toStdString();
+    EXPECT_THAT(result.err.toStdString(), HasSubstr("no font is installed"));
+}
+
+struct Jump {
+    double seconds;  // that the clock has jumped forward since the fetch
+    int requests;
+    const char* shown;
+};
+
+TEST_F(Surroundings, ClockThatJumpedADayLosesNothing) {
+    constexpr double day = 86400.0;
+    for (const Jump& jump : {Jump{day, 1, "21°C"}, Jump{-day, 0, "7°C"}}) {
+        age(jump.seconds);
+        const auto before = server_.requestLines().size();
+        const auto result = report();
+        EXPECT_EQ(result.exitCode, 0);
+        EXPECT_THAT(result.out.toStdString(), HasSubstr(jump.shown));
+        EXPECT_EQ(server_.requestLines().size() - before, jump.requests);
+        EXPECT_EQ(troubles(result.err), QList<QByteArray>());
+    }
+}
+
+TEST_F(Surroundings, OtherUsersSeeNothingOfWhatItKeeps) {
+    const auto all = QFile::ReadOther | QFile::ExeOther | QFile::ReadGroup | QFile::ExeGroup;
+    const QStringList folders{panel_.home() + QStringLiteral("/config/zephyrix"),
+                              panel_.home() + QStringLiteral("/cache/zephyrix-panel")};
+    for (const QString& folder : folders) {
+        QDir().mkpath(folder);
+        ASSERT_TRUE(QFile::setPermissions(folder, QFile::permissions(folder) | all));
+    }
+    const mode_t before = ::umask(0);  // of a careless session
+    EXPECT_EQ(report().exitCode, 0);
+    ::umask(before);
+    int count = 0;
+    for (const QString& folder : folders) {
+        EXPECT_FALSE(QFile::permissions(folder) & all) << folder.toStdString();
+        QDirIterator entries(folder, QDir::AllEntries | QDir::NoDotAndDotDot,
+                             QDirIterator::Subdirectories);
+        for (; entries.hasNext(); ++count)
+            EXPECT_FALSE(QFile::permissions(entries.next()) & all)
+                << entries.filePath().toStdString();
+    }
+    EXPECT_GE(count, 4) << "two settings files, a note, a folder";
+}
+
+TEST_F(Surroundings, PlainHttpOfAnotherMachineIsNotAskedFor) {
+    const QVariant before = document();
+    const auto result = reportFrom(QStringLiteral("http://0.0.0.0:1/"));
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_THAT(result.out.toStdString(), HasSubstr("7°C"));
+    EXPECT_THAT(result.err.toStdString(), HasSubstr("http://0.0.0.0:1/ is not asked"));
+    EXPECT_EQ(document(), before);
+    const auto unencrypted =
+        panel_.run({QStringLiteral("--text"), QStringLiteral("--allow-plain-http"),
+                    QStringLiteral("--feed"), QStringLiteral("http://0.0.0.0:1/")});
+    EXPECT_THAT(unencrypted.err.toStdString(), HasSubstr("Transport error 1"));
+}
+
+TEST_F(Surroundings, LostDisplayEndsItWithOneLine) {
+    auto display = std::make_unique<XDisplay>();
+    if (!display->isRunning())
+        GTEST_SKIP() << "Xvfb is not installed";
+    const QByteArray name = display->name().toLatin1();
+    const ScopedEnvironment there{{"DISPLAY", name.constData()}, {"QT_QPA_PLATFORM", "xcb"}};
+    const QVariant aged = document();
+    QProcess process;
+    panel_.start(process,
+                 {QStringLiteral("--window"), QStringLiteral("--feed"), server_.baseAddress()});
+    ASSERT_TRUE(waitUntil([&] {
+        const auto window = display->window();
+        return window && window->title.contains(QLatin1String("a test"));
+    }));
+    QVariant stored;
+    ASSERT_TRUE(waitUntil([&] { return (stored = document()) != aged; }));
+    display.reset();
+    ASSERT_TRUE(waitUntil([&] { return process.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 1);
+    const auto said = troubles(process.readAllStandardError());
+    ASSERT_EQ(said.size(), 1) << said.join('\n').toStdString();
+    EXPECT_THAT(said.first().toStdString(), HasSubstr("X11"));
+    EXPECT_EQ(document(), stored);
+    const ScopedEnvironment elsewhere{{"QT_QPA_PLATFORM", "offscreen"}};
+    EXPECT_EQ(report().exitCode, 0) << "nothing holds the next start";
+}
+
+}  // namespace
+}  // namespace zephyrix
