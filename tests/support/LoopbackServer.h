@@ -26,6 +26,9 @@ class LoopbackServer : public QObject {
     /// Nobody listens any more: connections are closed, new ones refused.
     void refuse();
 
+    /// Of a long row of requests, those up to now.
+    void forgetRequests() { requests_ = {}; }
+
     /// "http://127.0.0.1:40123/"
     [[nodiscard]] QString baseAddress() const { return baseAddress_; }
     /// "GET /zephyrix/WeatherFeed.php?lid=5&json=1&widget=1 HTTP/1.1"
