@@ -13,6 +13,9 @@ namespace zephyrix {
 
 namespace {
 
+// What may arrive before it is taken, in bytes: else a fast server fills the memory meanwhile.
+constexpr qint64 waiting = 512 * 1024;
+
 QNetworkRequest requestFor(const QUrl& address) {
     QNetworkRequest request(address);
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
@@ -85,6 +88,7 @@ void FeedRequest::send(const QUrl& address) {
     silence_.start();
     reply_ = network_.get(requestFor(address));
     reply_->setParent(this);
+    reply_->setReadBufferSize(waiting);
     connect(reply_, &QNetworkReply::metaDataChanged, &silence_, qOverload<>(&QTimer::start));
     connect(reply_, &QNetworkReply::readyRead, this, &FeedRequest::takeArrivedBytes);
     connect(reply_, &QNetworkReply::finished, this, &FeedRequest::finish);

@@ -159,6 +159,8 @@ TEST_F(FeedRequestTest, MemoryStaysBounded) {
     const QByteArray most(limits_.bytes, ' ');
     server_.answerWith(answerBody(most));
     EXPECT_EQ(fetch().body.size(), most.size());
+    server_.answerWith(answerCompressedZeros(limits_.bytes));
+    EXPECT_EQ(fetch().body.size(), most.size()) << "compressed";
     server_.answerWith(answerBody(most + ' '));
     expectTransportError("one byte more than the limit");
 
