@@ -22,6 +22,11 @@ target_compile_definitions(zephyrix_compiler INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
+if(ZEPHYRIX_FUZZ)
+    # The rooms count which of their branches an input takes; only the fuzz targets link libFuzzer.
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 if(ZEPHYRIX_SANITIZE)
     add_compile_options(-fsanitize=${ZEPHYRIX_SANITIZE} -fno-omit-frame-pointer
                         -fno-sanitize-recover=all)
