@@ -42,7 +42,7 @@ def seeds():
     yield "too-few-rows", png(RGB, 8, side=8, pixels_of=3)
     yield "scale-zero", png(RGBA, 8, extra=part(b"tEXt", b"Scale\x000"))
     yield "scale-in-words", png(RGBA, 8, extra=part(b"tEXt", b"Scale\x00nan"))
-    yield "broad", png(GREY, 1, side=4097, pixels_of=1)
+    yield "broad", png(GREY, 1, side=4097)
     yield "compressed-text", png(RGBA, 8, extra=part(b"zTXt", b"Scale\x00\x00" + zlib.compress(b"3")))
 
 
