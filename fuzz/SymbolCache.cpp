@@ -1,10 +1,9 @@
-// A file in the symbol cache.
-#include <QColor>
-#include <QPainter>
+// A file in the symbol cache, and the view that shows it.
 #include <QtEndian>
 
 #include "Surroundings.h"
 #include "symbols/QKWeatherSymbols.h"
+#include "ui/ImageView.h"
 
 namespace {
 
@@ -42,6 +41,16 @@ QByteArray withRightChecksums(QByteArray png) {
     return png;
 }
 
+void show(const QImage& image) {
+    constexpr double scale = 2.0;
+    static auto* const view = new ImageView;
+    view->resize(40, 40);
+    view->setImage(image);
+    QImage row(QSize(80, 80), QImage::Format_ARGB32_Premultiplied);
+    row.setDevicePixelRatio(scale);
+    view->render(&row);
+}
+
 void readFromCache(const QByteArray& file) {
     QKWeatherSymbols::symbolCache().clear();
     writeFile(QKWeatherSymbols::documentsDir() + QLatin1Char('/') + key, file);
@@ -51,9 +60,7 @@ void readFromCache(const QByteArray& file) {
     expect(image.width() <= largestSide && image.height() <= largestSide, "no image is huge");
     expect(image.format() == QImage::Format_ARGB32_Premultiplied, "an image is ready to be drawn");
     expect(image.devicePixelRatio() > 0.0, "an image has a scale");
-    QImage row(80, 80, QImage::Format_ARGB32_Premultiplied);
-    row.fill(Qt::transparent);
-    QPainter(&row).drawImage(QPoint(), image);
+    show(image);
 }
 
 }  // namespace
