@@ -2,6 +2,7 @@
 // what it was asked, on settings of its own; the other two only say what was asked of them.
 #include "app/CommandLine.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QStringList>
@@ -71,15 +72,23 @@ void runMainApplication(const QStringList& words) {
     err.flush();
     expect((code == ExitCode::Success) == refusal.isEmpty(), "what fails says why");
     removeWrittenFiles();
+    QCoreApplication::sendPostedEvents();  // what the settings left to an event loop
+}
+
+/// As a program gets them: text up to a zero byte each, in the user's encoding.
+QStringList wordsFrom(const QByteArray& input) {
+    QStringList words;
+    for (const QByteArray& line : input.split('\n'))
+        words << QString::fromLocal8Bit(line.constData());
+    if (words.size() > 1 && words.last().isEmpty())
+        words.removeLast();  // the end of the last line
+    return words;
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    // As a program gets them: text up to a zero byte each, in the user's encoding.
-    QStringList words;
-    for (const QByteArray& line : bytesOf(data, size).split('\n'))
-        words << QString::fromLocal8Bit(line.constData());
+    const QStringList words = wordsFrom(bytesOf(data, size));
     if (words.first() == QLatin1String("zephyrix-panel"))
         parsePanel(words);
     else if (words.first() == QLatin1String("zephyrix-feedd"))

@@ -1,4 +1,5 @@
 // A file where a settings store is expected.
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -69,5 +70,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     QDir().mkpath(folder);
     writeFile(folder + QStringLiteral("/fuzz.plist"), bytes);
     checkChange(bytes, values);
+    QCoreApplication::sendPostedEvents();  // what the store left to an event loop
     return 0;
 }
