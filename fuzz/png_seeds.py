@@ -43,6 +43,8 @@ def seeds():
     yield "scale-zero", png(RGBA, 8, extra=part(b"tEXt", b"Scale\x000"))
     yield "scale-in-words", png(RGBA, 8, extra=part(b"tEXt", b"Scale\x00nan"))
     yield "broad", png(GREY, 1, side=4097)
+    # Found by fuzzing: the codec made room for the gigabyte that the text's length claims.
+    yield "text-of-a-gigabyte", png(RGBA, 8, extra=b"\x40\0\0\x07tEXtScale\x002")
     yield "compressed-text", png(RGBA, 8, extra=part(b"zTXt", b"Scale\x00\x00" + zlib.compress(b"3")))
 
 

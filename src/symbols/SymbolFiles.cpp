@@ -1,6 +1,7 @@
 #include "SymbolFiles.h"
 
 #include <algorithm>
+#include <array>
 
 #include <QBuffer>
 #include <QByteArray>
@@ -8,6 +9,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QImageWriter>
+#include <QtEndian>
 
 namespace zephyrix {
 
@@ -49,12 +51,33 @@ void writeFile(const QImage& image, const QString& path) {
         file.remove();
 }
 
+/// Whether each part of a PNG file (length, name, content, checksum) ends inside of the file. The
+/// codec would make room for whatever a damaged length claims, gigabytes, before it reads on.
+bool holdsItsParts(QFile& file) {
+    constexpr qint64 signature = 8;
+    constexpr qint64 frame = 12;    // length, name and checksum
+    constexpr qint64 headSize = 8;  // length and name
+    std::array<char, headSize> head{};
+    qint64 at = signature;
+    while (file.seek(at) && file.read(head.data(), headSize) == headSize) {
+        at += frame + qFromBigEndian<quint32>(head.data());
+        if (at > file.size())
+            return false;
+        if (QByteArrayView(head).last(4) == QByteArrayView("IEND"))
+            return file.seek(0);
+    }
+    return false;
+}
+
 }  // namespace
 
 QImage readSymbolFile(const QString& path) {
     if (!QFileInfo(path).isFile())
         return {};
-    QImageReader reader(path, pngFormat());
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || !holdsItsParts(file))
+        return {};
+    QImageReader reader(&file, pngFormat());
     reader.setAutoDetectImageFormat(false);
     const QSize size = reader.size();
     if (size.isEmpty() || size.width() > largestSide || size.height() > largestSide)
