@@ -51,5 +51,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t coun
     const QStringList lines = QString::fromUtf8(bytesOf(data, count)).split(QLatin1Char('\n'));
     for (const QString& line : lines.first(std::min(lines.size(), mostLines)))
         drawLine(symbols, line);
+    QKWeatherSymbols::waitForFiles();  // no application ends here that would do so
     return 0;
 }
