@@ -1,11 +1,11 @@
 #pragma once
 
 #include "Climate.h"
-#include "Place.h"
-#include "Quantity.h"
 #include "Scenario.h"
 #include "SmoothNoise.h"
 #include "foundation/Instant.h"
+#include "weather/Place.h"
+#include "weather/Quantity.h"
 
 namespace zephyrix {
 

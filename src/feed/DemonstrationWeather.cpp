@@ -5,9 +5,9 @@
 
 #include <QDateTime>
 
-#include "Daylight.h"
 #include "DemonstrationAtmosphere.h"
 #include "symbolscheme/SymbolScheme.h"
+#include "weather/Daylight.h"
 
 namespace zephyrix {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Scenario.h"
-#include "WeatherSource.h"
+#include "weather/WeatherSource.h"
 
 namespace zephyrix {
 

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QTimeZone>
 
-#include "Weather.h"
+#include "weather/Weather.h"
 
 namespace zephyrix {
 

@@ -6,8 +6,8 @@
 #include <QString>
 #include <QStringList>
 
-#include "Place.h"
 #include "Scenario.h"
+#include "weather/Place.h"
 
 namespace zephyrix {
 

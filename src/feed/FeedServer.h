@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "PlaceDirectory.h"
-#include "WeatherSource.h"
+#include "weather/WeatherSource.h"
 
 namespace zephyrix {
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "Place.h"
+#include "weather/Place.h"
 
 namespace zephyrix {
 

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "Quantity.h"
+#include "weather/Quantity.h"
 
 namespace zephyrix {
 
