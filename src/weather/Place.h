@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include <QTimeZone>
+
+#include "Quantity.h"
 
 namespace zephyrix {
 
@@ -12,6 +15,7 @@ struct Place {
     double latitude;   // degrees, north positive, -90 to 90
     double longitude;  // degrees, east positive, -180 to 180
     QTimeZone zone;    // valid; its days are the forecast's days
+    std::optional<Metres> elevation{};
 };
 
 }  // namespace zephyrix
