@@ -14,10 +14,10 @@ namespace {
 
 constexpr int missing = -9999;
 
-/// To a tenth of the unit.
 template <typename Unit>
-QJsonValue json(const std::optional<Quantity<Unit>>& quantity) {
-    return quantity ? QJsonValue(std::round(quantity->value() * 10.0) / 10.0) : QJsonValue(missing);
+QJsonValue json(const std::optional<Quantity<Unit>>& quantity, double parts = 10.0) {
+    return quantity ? QJsonValue(std::round(quantity->value() * parts) / parts)
+                    : QJsonValue(missing);
 }
 
 QJsonValue json(const std::optional<int>& code) {
@@ -44,10 +44,21 @@ QJsonObject json(const Observation& observation, const QTimeZone& zone) {
             {QStringLiteral("ff"), json(observation.windSpeed)},
             {QStringLiteral("ffg"), json(observation.gusts)},
             {QStringLiteral("rrr"), json(observation.precipitation)},
-            {QStringLiteral("rrrh"), json(observation.precipitationPeriod)},
+            {QStringLiteral("rrrh"), json(observation.precipitationPeriod, 100.0)},
             {QStringLiteral("n"), json(observation.cloudCover)},
             {QStringLiteral("ww"), json(observation.presentWeather)},
             {QStringLiteral("ppp"), json(observation.pressure)}};
+}
+
+/// Who tells the weather goes with the observation, because the panel keeps all of that.
+void addSource(QJsonObject& observation, const Weather& weather) {
+    observation.insert(QStringLiteral("source"), weather.source);
+    if (!weather.licence.isEmpty())
+        observation.insert(QStringLiteral("licence"), weather.licence);
+    if (!weather.sourceUrl.isEmpty())
+        observation.insert(QStringLiteral("sourceUrl"), weather.sourceUrl);
+    if (weather.fetched)
+        observation.insert(QStringLiteral("fetched"), timeText(*weather.fetched, QTimeZone::utc()));
 }
 
 QJsonObject json(const ForecastDay& day) {
@@ -63,7 +74,9 @@ QByteArray feedDocument(const Weather& weather, const QTimeZone& zone) {
     QJsonObject document;
     if (weather.observation) {
         QJsonObject observation = json(*weather.observation, zone);
-        observation.insert(QStringLiteral("source"), weather.source);
+        if (weather.observation->precipitationTime == PrecipitationTime::After)
+            observation.insert(QStringLiteral("rrrnext"), true);
+        addSource(observation, weather);
         document.insert(QStringLiteral("obs"),
                         QJsonObject{{QStringLiteral("lastObs"), observation}});
     }

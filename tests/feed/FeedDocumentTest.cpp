@@ -11,9 +11,6 @@
 namespace zephyrix {
 namespace {
 
-// A speed in another unit, or a bare number, cannot become knots by accident.
-static_assert(!std::is_convertible_v<double, Knots> && !std::is_constructible_v<Knots, Celsius>);
-
 QTimeZone zone(const char* name) {
     return timeZoneWithName(QString::fromLatin1(name));
 }
@@ -57,6 +54,23 @@ TEST(FeedDocument, IsWrittenInTheFormOfTheFeed) {
               R"("obs":{"lastObs":{"datetime":"2015-06-01T12:00:00+02:00","dd":-9999,"ff":12,)"
               R"("ffg":-9999,"n":-9999,"ppp":-9999,"rrr":0.3,"rrrh":-9999,"source":"test",)"
               R"("symbol":1121100,"td":-9999,"tt":0,"ww":-9999}}})");
+}
+
+TEST(FeedDocument, NamesItsSourceWhereThePanelKeepsIt) {
+    const QJsonObject lastObs = lastObsOf(
+        documentOf({.source = QStringLiteral("test"),
+                    .observation = Observation{.time = noon,
+                                               .precipitation = Millimetres(0.4),
+                                               .precipitationPeriod = Hours(0.25),
+                                               .precipitationTime = PrecipitationTime::After},
+                    .licence = QStringLiteral("CC BY 4.0"),
+                    .sourceUrl = QStringLiteral("https://example.org/"),
+                    .fetched = noon.addingSeconds(61.0)}));
+    EXPECT_EQ(lastObs[QStringLiteral("licence")], QStringLiteral("CC BY 4.0"));
+    EXPECT_EQ(lastObs[QStringLiteral("sourceUrl")], QStringLiteral("https://example.org/"));
+    EXPECT_EQ(lastObs[QStringLiteral("fetched")], QStringLiteral("2015-06-01T10:01:01+00:00"));
+    EXPECT_EQ(lastObs[QStringLiteral("rrrh")], 0.25);
+    EXPECT_EQ(lastObs[QStringLiteral("rrrnext")], true);
 }
 
 TEST(FeedDocument, TimesCarryTheOffsetOfThePlace) {
