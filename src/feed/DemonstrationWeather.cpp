@@ -108,7 +108,8 @@ std::optional<Weather> DemonstrationWeather::weatherAt(const Place& place, Insta
     Weather weather{.source = QStringLiteral("demonstration"),
                     .observation = observationOf(atmosphere.at(observed), observed,
                                                  isLit(scenario_, place, observed)),
-                    .days = std::vector<ForecastDay>()};
+                    .days = std::vector<ForecastDay>(),
+                    .validUntil = observed.addingSeconds(hour)};
     const QDate today = now.toDateTime().toTimeZone(place.zone).date();
     for (int i = 0; i < forecastDays; ++i)
         weather.days->push_back(forecastDay(today.addDays(i), place, scenario_, atmosphere));

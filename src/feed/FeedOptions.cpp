@@ -3,9 +3,12 @@
 #include <cmath>
 
 #include <QCommandLineParser>
+#include <QHostAddress>
 
 #include "PlaceDirectory.h"
 #include "foundation/TimeZone.h"
+#include "foundation/UserDefaults.h"
+#include "weather/WeatherServices.h"
 
 namespace zephyrix {
 
@@ -14,6 +17,9 @@ namespace {
 void describe(QCommandLineParser& parser) {
     parser.addOption({QStringLiteral("port"), {}, QStringLiteral("N")});
     parser.addOption({QStringLiteral("scenario"), {}, QStringLiteral("NAME")});
+    parser.addOption({QStringLiteral("source"), {}, QStringLiteral("NAME")});
+    parser.addOption({QStringLiteral("contact"), {}, QStringLiteral("ADDRESS")});
+    parser.addOption({QStringLiteral("source-address"), {}, QStringLiteral("NAME=URL")});
     parser.addOption({QStringLiteral("latitude"), {}, QStringLiteral("DEGREES")});
     parser.addOption({QStringLiteral("longitude"), {}, QStringLiteral("DEGREES")});
     parser.addOption({QStringLiteral("zone"), {}, QStringLiteral("NAME")});
@@ -73,6 +79,53 @@ std::optional<Place> placeFrom(const QCommandLineParser& parser) {
     return Place{1, north, east, named};
 }
 
+/// "open-meteo=http://127.0.0.1:8080/". What is asked says where the user lives, so it goes in the
+/// clear only within this machine.
+std::pair<QString, QUrl> sourceAddressFrom(const QString& text) {
+    const QString name = text.section(QLatin1Char('='), 0, 0);
+    const QUrl address(text.section(QLatin1Char('='), 1), QUrl::StrictMode);
+    const bool isSafe = address.scheme() == QLatin1String("https") ||
+                        (address.scheme() == QLatin1String("http") &&
+                         (QHostAddress(address.host()).isLoopback() ||
+                          address.host() == QLatin1String("localhost")));
+    if (weatherServiceNamed(name) == nullptr)
+        throw BadOption(QStringLiteral("--source-address: there is no service \"%1\"").arg(name));
+    if (!address.isValid() || address.host().isEmpty() || !isSafe ||
+        !address.path().endsWith(QLatin1Char('/')))
+        throw BadOption(QStringLiteral("--source-address: \"%1\" is no https address (or http of "
+                                       "this machine) that ends with \"/\"")
+                            .arg(text));
+    return {name, address};
+}
+
+/// What the command line says, else what the settings say, else nothing.
+QString chosen(const QCommandLineParser& parser, const QString& option, const QString& setting) {
+    if (parser.isSet(option))
+        return parser.value(option);
+    const auto shared = UserDefaults::suite(QStringLiteral("group.Zephyrix"));
+    return shared ? shared->object(setting).toString() : QString();
+}
+
+std::optional<BridgeSettings> bridgeFrom(const QCommandLineParser& parser) {
+    const QString demonstration = QStringLiteral("demo");
+    const bool hasScenario = parser.isSet(QStringLiteral("scenario"));
+    const bool hasSource = parser.isSet(QStringLiteral("source"));
+    if (hasScenario && !hasSource)
+        return std::nullopt;
+    const QString source =
+        chosen(parser, QStringLiteral("source"), QStringLiteral("weatherSource"));
+    if (source == demonstration || (source.isEmpty() && !hasSource))
+        return std::nullopt;
+    if (hasScenario)
+        throw BadOption(QStringLiteral("--scenario is for demonstration weather only"));
+    BridgeSettings settings{
+        .source = source,
+        .contact = chosen(parser, QStringLiteral("contact"), QStringLiteral("weatherContact"))};
+    for (const QString& text : parser.values(QStringLiteral("source-address")))
+        settings.addresses.insert(sourceAddressFrom(text));
+    return settings;
+}
+
 }  // namespace
 
 FeedOptions FeedOptions::from(const QStringList& arguments) {
@@ -93,16 +146,26 @@ FeedOptions FeedOptions::from(const QStringList& arguments) {
                            ? scenarioFrom(parser.value(QStringLiteral("scenario")))
                            : &scenarios().front();
     options.everyPlace = placeFrom(parser);
+    if (!options.help && !options.version)
+        options.bridge = bridgeFrom(parser);
     return options;
 }
 
 QString FeedOptions::helpText() {
     QString text = QStringLiteral(
         "Usage: zephyrix-feedd [OPTIONS]\n\n"
-        "A feed server for the weather panel, on this machine only, with demonstration weather.\n\n"
+        "A feed server for the weather panel, on this machine only, with the weather of a public\n"
+        "service or demonstration weather.\n\n"
         "Options:\n"
         "  --port N             the port, 0 (any free one) unless given\n"
-        "  --scenario NAME      the kind of weather, see below\n"
+        "  --source NAME        who is asked for the weather: auto, open-meteo, met-norway,\n"
+        "                       bright-sky; or demo, invented weather. Unless given, what the\n"
+        "                       setting \"weatherSource\" says, else demo\n"
+        "  --contact ADDRESS    e-mail or web address of who runs this, told to the services;\n"
+        "                       met-norway answers nobody without one\n"
+        "  --source-address NAME=URL\n"
+        "                       another address of a service, for trying out\n"
+        "  --scenario NAME      the kind of demonstration weather, see below\n"
         "  --latitude DEGREES   with --longitude: one place, north and east positive, for every "
         "id\n"
         "  --longitude DEGREES\n"

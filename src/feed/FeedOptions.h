@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "Bridge.h"
 #include "Scenario.h"
 #include "weather/Place.h"
 
@@ -19,8 +20,10 @@ struct FeedOptions {
     const Scenario* scenario = nullptr;
     std::optional<Place> everyPlace{};  // the place of every id, where one was given
     bool endWithInput = false;
+    std::optional<BridgeSettings> bridge{};  // nothing: demonstration weather
 
-    /// Reads the command line, without the program's name; throws BadOption.
+    /// Reads the command line, without the program's name, and for what it leaves open on the
+    /// source of the weather the shared settings; throws BadOption.
     [[nodiscard]] static FeedOptions from(const QStringList& arguments);
     [[nodiscard]] static QString helpText();
 };

@@ -8,7 +8,7 @@
 #include <QJsonObject>
 #include <httplib.h>
 
-#include "FeedDocument.h"
+#include "CacheHeaders.h"
 #include "foundation/Clock.h"
 #include "foundation/Log.h"
 
@@ -25,6 +25,7 @@ constexpr const char* jsonType = "application/json";
 void refuse(Response& response, int status, const char* reason) {
     const QJsonObject body{{QStringLiteral("error"), QString::fromUtf8(reason)}};
     response.status = status;
+    response.set_header("Cache-Control", "no-store");
     response.set_content(QJsonDocument(body).toJson(QJsonDocument::Compact).toStdString(),
                          jsonType);
 }
@@ -58,8 +59,8 @@ void reuseOnlyFreedAddress(int socket) {
 
 class FeedServer::Private {
   public:
-    Private(const WeatherSource& source, const PlaceDirectory& places)
-        : source_(source), places_(places) {
+    Private(const DocumentKeeper& documents, const PlaceDirectory& places)
+        : documents_(documents), places_(places) {
         server.set_socket_options(reuseOnlyFreedAddress);
         // A connection is for one request: an idle one would hold a thread.
         server.set_keep_alive_max_count(1);
@@ -89,21 +90,27 @@ class FeedServer::Private {
         const auto id = placeId(request.get_param_value("lid"));
         if (!id)
             return refuse(response, 400, "lid must be the id of a place, a whole number from 1");
-        const Place place = places_.placeOf(*id);
-        const auto weather = source_.weatherAt(place, Clock::now());
-        response.set_header("Cache-Control", "no-store");
-        if (!weather)
+        const auto place = places_.placeOf(*id);
+        if (!place)
+            return refuse(response, 404, "no place is known by this id");
+        const Instant now = Clock::now();
+        const auto document = documents_.documentFor(*place, now);
+        if (!document)
             return refuse(response, 503, "the weather of this place is not known at present");
-        response.set_header("X-Zephyrix-Weather", weather->source.toStdString());
-        response.set_content(feedDocument(*weather, place.zone).toStdString(), jsonType);
+        addCacheHeaders(response, *document, now);
+        response.set_header("X-Zephyrix-Weather", document->source.toStdString());
+        if (isUnchangedFor(request, *document))
+            response.status = 304;
+        else
+            response.set_content(document->body.toStdString(), jsonType);
     }
 
-    const WeatherSource& source_;
+    const DocumentKeeper& documents_;
     const PlaceDirectory& places_;
 };
 
-FeedServer::FeedServer(const WeatherSource& source, const PlaceDirectory& places)
-    : d_(std::make_unique<Private>(source, places)) {}
+FeedServer::FeedServer(const DocumentKeeper& documents, const PlaceDirectory& places)
+    : d_(std::make_unique<Private>(documents, places)) {}
 
 FeedServer::~FeedServer() = default;
 

@@ -3,17 +3,18 @@
 #include <memory>
 #include <optional>
 
+#include "DocumentKeeper.h"
 #include "PlaceDirectory.h"
-#include "weather/WeatherSource.h"
 
 namespace zephyrix {
 
 /// Answers "GET /zephyrix/WeatherFeed.php?lid=N&json=1&widget=1" on the loopback interface, as
-/// docs/feed-format.md describes it, and writes one line a request to the log: time, method, path,
-/// status, bytes of the body. Source and places must outlive it.
+/// docs/feed-format.md describes it, with what caches on the way need to know, and writes one line
+/// a request to the log: time, method, path, status, bytes of the body. Documents and places must
+/// outlive it.
 class FeedServer {
   public:
-    FeedServer(const WeatherSource& source, const PlaceDirectory& places);
+    FeedServer(const DocumentKeeper& documents, const PlaceDirectory& places);
     ~FeedServer();
     FeedServer(const FeedServer&) = delete;
     FeedServer& operator=(const FeedServer&) = delete;

@@ -45,17 +45,20 @@ QTimeZone zoneOfLongitude(double degreesEast) {
     return QTimeZone(static_cast<int>(std::lround(degreesEast / 15.0)) * 3600);
 }
 
-PlaceDirectory::PlaceDirectory(std::optional<Place> everyPlace)
-    : everyPlace_(std::move(everyPlace)) {}
+PlaceDirectory::PlaceDirectory(std::optional<Place> everyPlace, Unknown unknown)
+    : everyPlace_(std::move(everyPlace)), unknown_(unknown) {}
 
-Place PlaceDirectory::placeOf(std::int64_t id) const {
-    if (everyPlace_)
-        return {id, everyPlace_->latitude, everyPlace_->longitude, everyPlace_->zone};
+std::optional<Place> PlaceDirectory::placeOf(std::int64_t id) const {
+    if (everyPlace_) {
+        Place place = *everyPlace_;
+        place.id = id;
+        return place;
+    }
     if (auto place = chosenPlace(id))
-        return *place;
+        return place;
     if (auto place = placeFrom(LocationResult::defaultSearchResult(), id))
-        return *place;
-    return inventedPlace(id);
+        return place;
+    return unknown_ == Unknown::Invented ? std::optional(inventedPlace(id)) : std::nullopt;
 }
 
 }  // namespace zephyrix

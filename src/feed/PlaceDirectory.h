@@ -12,19 +12,23 @@ namespace zephyrix {
 /// 1. the place that was given for every id, if one was (--latitude, --longitude, --zone);
 /// 2. the place that the user has chosen in `zephyrix`, for its own id;
 /// 3. the default place, Berlin, for its id;
-/// 4. otherwise an invented place in the inhabited latitudes, always the same for an id.
+/// 4. where places may be invented, a place in the inhabited latitudes, always the same for an id.
 ///
 /// A place without a zone that the system knows has the time of its longitude, in whole hours.
 /// May be asked on any thread.
 class PlaceDirectory {
   public:
-    explicit PlaceDirectory(std::optional<Place> everyPlace = std::nullopt);
+    /// What becomes of an id that nobody knows: real weather of an invented place would be a lie.
+    enum class Unknown : std::uint8_t { Invented, Refused };
 
-    /// The id is 1 or more.
-    [[nodiscard]] Place placeOf(std::int64_t id) const;
+    PlaceDirectory(std::optional<Place> everyPlace, Unknown unknown);
+
+    /// The id is 1 or more. Nothing for an unknown one that is refused.
+    [[nodiscard]] std::optional<Place> placeOf(std::int64_t id) const;
 
   private:
     std::optional<Place> everyPlace_;
+    Unknown unknown_;
 };
 
 /// The zone with the time of a longitude in whole hours from UTC.

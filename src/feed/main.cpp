@@ -1,15 +1,18 @@
 #include <chrono>
 #include <cstdlib>
 #include <future>
+#include <memory>
 
 #include <QCoreApplication>
 #include <QTextStream>
 
+#include "Bridge.h"
 #include "DemonstrationWeather.h"
 #include "EndRequest.h"
 #include "FeedOptions.h"
 #include "FeedServer.h"
 #include "PlaceDirectory.h"
+#include "foundation/Log.h"
 
 namespace {
 
@@ -34,14 +37,20 @@ void endServing(FeedServer& server, const std::future<void>& serving) {
 int serve(const FeedOptions& options) {
     const EndRequest end(options.endWithInput ? EndRequest::Input::Watched
                                               : EndRequest::Input::Ignored);
-    const DemonstrationWeather source(*options.scenario);
-    const PlaceDirectory places(options.everyPlace);
-    FeedServer server(source, places);
+    const DemonstrationWeather demonstration(*options.scenario);
+    const auto bridge =
+        options.bridge ? std::make_unique<Bridge>(*options.bridge, ZEPHYRIX_VERSION) : nullptr;
+    const DocumentKeeper documents(bridge ? bridge->source() : demonstration);
+    const PlaceDirectory places(options.everyPlace, bridge ? PlaceDirectory::Unknown::Refused
+                                                           : PlaceDirectory::Unknown::Invented);
+    FeedServer server(documents, places);
     const auto port = server.listenOn(options.port);
     if (!port) {
         print(stderr, QStringLiteral("zephyrix-feedd: port %1 cannot be had\n").arg(options.port));
         return EXIT_FAILURE;
     }
+    logLine(bridge ? QStringLiteral("weather by %1").arg(options.bridge->source)
+                   : QStringLiteral("demonstration weather"));
     print(stdout, QStringLiteral("listening on http://127.0.0.1:%1/\n").arg(*port));
     const auto serving = std::async(std::launch::async, [&server] { server.serve(); });
     end.wait();

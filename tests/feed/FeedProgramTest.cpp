@@ -12,6 +12,7 @@
 #include "foundation/UserDefaults.h"
 #include "model/LocationResult.h"
 #include "support/TestHome.h"
+#include "weather/FakeService.h"
 
 namespace zephyrix {
 namespace {
@@ -36,11 +37,12 @@ class FeedProgram {
     FeedProgram(const FeedProgram&) = delete;
     FeedProgram& operator=(const FeedProgram&) = delete;
 
-    /// The whole answer to a request line with no headers but the host.
-    [[nodiscard]] QByteArray answerTo(const QByteArray& methodAndPath) const {
+    /// The whole answer to a request line with no headers but the host and those given.
+    [[nodiscard]] QByteArray answerTo(const QByteArray& methodAndPath,
+                                      const QByteArray& headers = {}) const {
         QTcpSocket socket;
         socket.connectToHost(QStringLiteral("127.0.0.1"), port);
-        socket.write(methodAndPath + " HTTP/1.1\r\nHost: localhost\r\n\r\n");
+        socket.write(methodAndPath + " HTTP/1.1\r\nHost: localhost\r\n" + headers + "\r\n");
         while (socket.state() != QTcpSocket::UnconnectedState && socket.waitForReadyRead(5000)) {
         }
         return socket.readAll();
@@ -83,11 +85,48 @@ TEST(FeedProgram, AnswersThePanelsRequest) {
         feed.answerTo("GET /zephyrix/WeatherFeed.php?lid=18228265&json=1&widget=1");
     EXPECT_EQ(statusOf(answer), 200);
     for (const char* header :
-         {"\r\nContent-Type: application/json\r\n", "\r\nCache-Control: no-store\r\n",
-          "\r\nX-Zephyrix-Weather: demonstration\r\n"})
+         {"\r\nContent-Type: application/json\r\n", "\r\nCache-Control: public, max-age=",
+          "\r\nX-Zephyrix-Weather: demonstration\r\n", "\r\nVary: Accept-Encoding\r\n"})
         EXPECT_TRUE(answer.contains(header)) << header << " in " << answer.toStdString();
     EXPECT_EQ(feed.lastObsOf("18228265")[QStringLiteral("source")],
               QStringLiteral("demonstration"));
+}
+
+QByteArray headerIn(const QByteArray& answer, const QByteArray& name) {
+    const qsizetype begin = answer.indexOf("\r\n" + name + ": ") + name.size() + 4;
+    return answer.mid(begin, answer.indexOf("\r\n", begin) - begin);
+}
+
+TEST(FeedProgram, SendsADocumentOnlyToThoseWhoDoNotHaveIt) {
+    const FeedProgram feed({QStringLiteral("--scenario"), QStringLiteral("rain")});
+    const QByteArray request = "GET /zephyrix/WeatherFeed.php?lid=5";
+    QByteArray whole = feed.answerTo(request);
+    if (headerIn(whole, "Cache-Control") == "public, max-age=0" ||
+        headerIn(whole, "Cache-Control") == "public, max-age=1")
+        whole = feed.answerTo(request);  // the demonstration's hour is about to end
+    const QByteArray tag = headerIn(whole, "ETag");
+    const QByteArray modified = headerIn(whole, "Last-Modified");
+    ASSERT_TRUE(tag.startsWith("W/\"")) << whole.toStdString();
+    struct Case {
+        QByteArray headers;
+        int status;
+    };
+    for (const Case& c : {
+             Case{"If-None-Match: " + tag + "\r\n", 304},
+             Case{"If-None-Match: \"other\", " + tag.mid(2) + "\r\n", 304},
+             Case{"If-None-Match: *\r\n", 304},
+             Case{"If-None-Match: \"other\"\r\n", 200},
+             Case{"If-Modified-Since: " + modified + "\r\n", 304},
+             Case{"If-Modified-Since: Mon, 01 Jun 2015 12:00:00 GMT\r\n", 200},
+             Case{"If-Modified-Since: yesterday\r\n", 200},
+             // The tag alone counts where both are given.
+             Case{"If-None-Match: \"other\"\r\nIf-Modified-Since: " + modified + "\r\n", 200},
+         }) {
+        const QByteArray answer = feed.answerTo(request, c.headers);
+        EXPECT_EQ(statusOf(answer), c.status) << c.headers.toStdString();
+        EXPECT_EQ(answer.contains("lastObs"), c.status == 200) << c.headers.toStdString();
+        EXPECT_EQ(headerIn(answer, "ETag"), tag) << c.headers.toStdString();
+    }
 }
 
 TEST(FeedProgram, TellsWhatIsWrongWithARequest) {
@@ -118,7 +157,7 @@ TEST(FeedProgram, TellsWhatIsWrongWithARequest) {
     feed.process.terminate();
     EXPECT_TRUE(feed.process.waitForFinished(5000));
     const QByteArray log = feed.process.readAllStandardError();
-    EXPECT_EQ(log.count('\n'), 15) << log.toStdString();
+    EXPECT_EQ(log.count('\n'), 16) << log.toStdString();
     const QRegularExpression line(
         QStringLiteral("^20\\d\\d-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\dZ GET /%1%0a%25 404 \\d+$"),
         QRegularExpression::MultilineOption);
@@ -147,6 +186,37 @@ TEST(FeedProgram, KnowsThePlaceBehindAnId) {
                              QStringLiteral("-176.55"), QStringLiteral("--zone"),
                              QStringLiteral("Pacific/Marquesas")});
     EXPECT_EQ(fixed.offsetOf("77"), QStringLiteral("-09:30"));
+}
+
+TEST(FeedProgram, AsksTheServiceThatTheSettingsName) {
+    qputenv("XDG_CONFIG_HOME", testing::freshFolder().toUtf8());
+    qputenv("XDG_CACHE_HOME", testing::freshFolder().toUtf8());
+    const auto settings = UserDefaults::suite(QStringLiteral("group.Zephyrix"));
+    settings->set(QStringLiteral("weatherSource"), QStringLiteral("open-meteo"));
+    ASSERT_TRUE(settings->synchronize());
+    testing::FakeService service([](const httplib::Request&, httplib::Response& response) {
+        const QByteArray now = QByteArray::number(QDateTime::currentSecsSinceEpoch());
+        response.set_content(
+            R"({"current":{"temperature_2m":-7.5,"time":)" + now.toStdString() + "}}",
+            "application/json");
+    });
+    const FeedProgram feed({QStringLiteral("--source-address"),
+                            QStringLiteral("open-meteo=") + service.address().toString()});
+    for (int i = 0; i < 3; ++i) {
+        const QJsonObject lastObs = feed.lastObsOf("18228265");
+        EXPECT_EQ(lastObs[QStringLiteral("tt")], -7.5);
+        EXPECT_EQ(lastObs[QStringLiteral("source")], QStringLiteral("Open-Meteo"));
+        EXPECT_EQ(lastObs[QStringLiteral("licence")],
+                  QStringLiteral("Weather data by Open-Meteo.com (CC BY 4.0)"));
+    }
+    EXPECT_EQ(service.count(), 1U);
+    EXPECT_EQ(service.last().get_header_value("User-Agent").substr(0, 15), "zephyrix-feedd/");
+    // Real weather of an invented place would be a lie.
+    EXPECT_EQ(statusOf(feed.answerTo("GET /zephyrix/WeatherFeed.php?lid=5")), 404);
+    // What is asked for on the command line comes first.
+    EXPECT_EQ(FeedProgram({QStringLiteral("--source"), QStringLiteral("demo")})
+                  .lastObsOf("5")[QStringLiteral("source")],
+              QStringLiteral("demonstration"));
 }
 
 TEST(FeedProgram, IsOnThisMachineOnlyAndSharesItsPortWithNobody) {
@@ -202,7 +272,12 @@ TEST(FeedProgram, TellsWhatIsWrongWithItsOptions) {
           Case{"--scenario sunny", "changing, fair, clear-night"},
           Case{"--latitude 52", "--longitude"}, Case{"--latitude 91 --longitude 0", "91"},
           Case{"--latitude 1 --longitude 2 --zone Europe/Atlantis", "Atlantis"},
-          Case{"--loud", "loud"}, Case{"rain", "rain"}}) {
+          Case{"--loud", "loud"}, Case{"rain", "rain"}, Case{"--source sunny", "auto, open-meteo"},
+          Case{"--source met-norway", "--contact"}, Case{"--source auto --contact me", "no e-mail"},
+          Case{"--source auto --scenario rain", "demonstration"},
+          Case{"--source auto --source-address sunny=https://a.example/", "sunny"},
+          Case{"--source auto --source-address open-meteo=http://a.example/", "https"},
+          Case{"--source auto --source-address open-meteo=file:///etc/", "https"}}) {
         const Outcome outcome = run(QString::fromUtf8(c.line).split(u' '));
         EXPECT_EQ(outcome.exitCode, 2) << c.line;
         EXPECT_TRUE(outcome.err.contains(c.told)) << c.line << ": " << outcome.err.toStdString();
