@@ -96,7 +96,7 @@ void FeedChild::readPort() {
     }
     deadline_.stop();
     base_ = QStringLiteral("http://127.0.0.1:%1/").arg(port);
-    logLine(QStringLiteral("demonstration weather comes from %1 (%2)").arg(program_, base_));
+    logLine(QStringLiteral("the feed comes from %1 (%2)").arg(program_, base_));
     answer();
 }
 

@@ -75,6 +75,7 @@ void PanelView::place() {
 void PanelView::showSource() {
     const QString source = RowReport::source(controller_);
     source_->setText(source);
+    source_->setToolTip(RowReport::licence(controller_));
     source_->setVisible(!source.isEmpty());
     place();
     Q_EMIT panelHeightChanged();

@@ -112,6 +112,13 @@ QStringList linesFor(const QJsonObject& row) {
     return {row.value(QLatin1String("text")).toString()};
 }
 
+/// A text that the feed sent with the observation; empty where it did not.
+QString toldBy(const TodayViewController& controller, const char* key) {
+    const auto& document = controller.lastWeatherData();
+    return document && document->obs ? document->obs->asDict().value(QLatin1String(key)).toString()
+                                     : QString();
+}
+
 }  // namespace
 
 RowReport::RowReport(TodayViewController& controller) {
@@ -122,6 +129,8 @@ RowReport::RowReport(TodayViewController& controller) {
             rows.append(rowIn(*cell));
     report_ = {{QStringLiteral("expanded"), controller.showingAll()},
                {QStringLiteral("source"), source(controller)},
+               {QStringLiteral("licence"), licence(controller)},
+               {QStringLiteral("fetched"), toldBy(controller, "fetched")},
                {QStringLiteral("rows"), rows}};
 }
 
@@ -132,15 +141,19 @@ QString RowReport::text() const {
     const QString source = report_.value(QLatin1String("source")).toString();
     if (!source.isEmpty())
         lines << QStringLiteral("(%1)").arg(source);
+    const QString licence = report_.value(QLatin1String("licence")).toString();
+    if (!licence.isEmpty())
+        lines << licence;
     return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 
 QString RowReport::source(const TodayViewController& controller) {
-    const auto& document = controller.lastWeatherData();
-    if (!document || !document->obs)
-        return {};
-    const QString name = document->obs->asDict().value(QStringLiteral("source")).toString();
+    const QString name = toldBy(controller, "source");
     return name == QLatin1String("demonstration") ? localized("Demonstration weather") : name;
+}
+
+QString RowReport::licence(const TodayViewController& controller) {
+    return toldBy(controller, "licence");
 }
 
 }  // namespace zephyrix

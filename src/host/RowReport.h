@@ -12,7 +12,7 @@ class RowReport {
   public:
     explicit RowReport(TodayViewController& controller);
 
-    /// {"expanded": ..., "source": ..., "rows": [...]}; docs/usage.md describes it.
+    /// {"expanded": ..., "source": ..., "licence": ..., "rows": [...]}; docs/usage.md describes it.
     [[nodiscard]] const QJsonObject& json() const noexcept { return report_; }
     /// The same in lines for people, with a line break at the end.
     [[nodiscard]] QString text() const;
@@ -20,6 +20,9 @@ class RowReport {
     /// What the feed says about the source of the document on display, "demonstration" in the
     /// user's language; empty where it does not say.
     [[nodiscard]] static QString source(const TodayViewController& controller);
+    /// The line that the source wants to be shown with its weather; empty where the feed gives
+    /// none.
+    [[nodiscard]] static QString licence(const TodayViewController& controller);
 
   private:
     QJsonObject report_;

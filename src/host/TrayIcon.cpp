@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "RowReport.h"
 #include "foundation/Bundle.h"
 #include "symbols/QKCompoundSymbol.h"
 
@@ -39,7 +40,10 @@ void TrayIcon::showWeather(TodayViewController& controller) {
     controller.tableView()->layoutIfNeeded();
     const TableCell* const row = controller.tableView()->cellForRow({0, 0});
     const QString spoken = row == nullptr ? QString() : row->spokenText();
-    icon_.setToolTip(spoken.isEmpty() ? program : spoken);
+    const QString licence = RowReport::licence(controller);
+    icon_.setToolTip(spoken.isEmpty()    ? program
+                     : licence.isEmpty() ? spoken
+                                         : QStringLiteral("%1\n%2").arg(spoken, licence));
     icon_.show();
 }
 

@@ -106,6 +106,22 @@ TEST_F(PanelProgramTest, DemonstrationWeatherIsCalledThat) {
     EXPECT_THAT(result.err.toStdString(), HasSubstr("demonstration weather"));
 }
 
+TEST_F(PanelProgramTest, NamesWhoTellsTheWeatherAlsoAfterANewStart) {
+    panel_.choosePlace();
+    server_.answerWith(answerBody(feedDocument(21.0, Clock::now())
+                                      .replace("a test\"",
+                                               "A Service\", \"licence\": \"CC BY\", "
+                                               "\"fetched\": \"2026-06-01\"")));
+    for (int start = 0; start < 2; ++start) {
+        const auto text = run({QStringLiteral("--text")});
+        EXPECT_TRUE(text.out.endsWith("(A Service)\nCC BY\n")) << text.out.toStdString();
+        const QJsonObject report = run({QStringLiteral("--json")}).json();
+        EXPECT_EQ(report[QLatin1String("licence")], QStringLiteral("CC BY"));
+        EXPECT_EQ(report[QLatin1String("fetched")], QStringLiteral("2026-06-01"));
+    }
+    EXPECT_EQ(server_.requestLines().size(), 1);
+}
+
 TEST_F(PanelProgramTest, DocumentThatStopsTheProcessDoesSoOnce) {
     panel_.choosePlace();
     const QVariantMap bad{{QStringLiteral("uid"), 18228265}};
