@@ -4,13 +4,15 @@
 
 #include "PlaceCommand.h"
 #include "SkyCommand.h"
+#include "SourceCommand.h"
 #include "SymbolCommand.h"
 #include "UnitsCommand.h"
 
 namespace zephyrix {
 
 std::span<const Command> commands() {
-    static const std::array table = {placeCommand, unitsCommand, skyCommand, symbolCommand};
+    static const std::array table = {placeCommand, unitsCommand, sourceCommand, skyCommand,
+                                     symbolCommand};
     return table;
 }
 

@@ -121,6 +121,10 @@ TEST_F(CommandLine, BadInputIsToldAndLeavesTheStoreAsItWas) {
              Case{"units wind", "km/h"},
              Case{"units wind furlongs", "furlongs"},
              Case{"units altitude ft", "altitude"},  // no setting of the panel
+             Case{"source sunny", "auto, open-meteo, met-norway, bright-sky, demo"},
+             Case{"source met-norway", "--contact"},
+             Case{"source auto --contact me", "\"me\""},
+             Case{"source auto --contact", "one source"},
              Case{"zephyrix://place", "zephyrix://place"},
              Case{"http://widget", "http://widget"},
              Case{"zephyrix://WIDGET", "zephyrix://WIDGET"},
@@ -138,6 +142,15 @@ TEST_F(CommandLine, BadInputIsToldAndLeavesTheStoreAsItWas) {
         EXPECT_TRUE(outcome.out.isEmpty()) << c.line;
         EXPECT_EQ(storeBytes(), before) << c.line;
     }
+}
+
+TEST_F(CommandLine, TheSourceOfTheWeatherIsChosen) {
+    EXPECT_EQ(run("source").out, "source         demo\n");
+    EXPECT_EQ(run("source met-norway --contact me@example.org").exitCode, 0);
+    EXPECT_EQ(stored("weatherSource"), QStringLiteral("met-norway"));
+    const Outcome automatic = run("source auto");  // the contact stays
+    EXPECT_EQ(automatic.out, "source         auto\ncontact        me@example.org\n");
+    EXPECT_TRUE(run("source met-norway").out.contains("NLOD"));
 }
 
 TEST_F(CommandLine, WhatCannotBeDoneIsAFailure) {
