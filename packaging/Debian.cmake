@@ -18,7 +18,7 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 in words, wind, rain and pressure; and, opened up, the next days. It lives in
 the tray where there is one, and in a window elsewhere.
 .
-Without a feed server of one's own it shows demonstration weather, and says
+Until a public weather service is chosen it shows demonstration weather, and says
 so.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS tzdata)

@@ -1,10 +1,11 @@
 set -l seen __fish_seen_subcommand_from
-set -l commands place units sky symbol
+set -l commands place units source sky symbol
 set -l quantities temperature wind precipitation pressure
 
 complete -c zephyrix -f
 complete -c zephyrix -n "not $seen $commands" -a place -d 'The place of the panel'
 complete -c zephyrix -n "not $seen $commands" -a units -d 'The units of the panel'
+complete -c zephyrix -n "not $seen $commands" -a source -d 'Whom the panel asks for the weather'
 complete -c zephyrix -n "not $seen $commands" -a sky -d 'Sun and moon of a day'
 complete -c zephyrix -n "not $seen $commands" -a symbol -d 'Draw a weather symbol'
 complete -c zephyrix -l help -d 'List the commands, or the lines of one'
@@ -31,6 +32,10 @@ complete -c zephyrix -n "$seen temperature" -a 'C F K'
 complete -c zephyrix -n "$seen wind" -a 'Bft kn km/h m/s mph'
 complete -c zephyrix -n "$seen precipitation" -a 'mm in'
 complete -c zephyrix -n "$seen pressure" -a 'hPa inHg Torr'
+
+set -l sources auto open-meteo met-norway bright-sky demo
+complete -c zephyrix -n "$seen source; and not $seen $sources" -a "$sources"
+complete -c zephyrix -n "$seen $sources" -l contact -x -d 'E-mail or web address told to the service'
 
 complete -c zephyrix -n "$seen sky" -l date -x -d 'The day, YYYY-MM-DD'
 complete -c zephyrix -n "$seen sky" -l place -x -d 'Another place: LAT,LON or LAT,LON,ZONE'
