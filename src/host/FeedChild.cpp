@@ -17,11 +17,15 @@ namespace {
 
 constexpr int endingTime = 1000;  // milliseconds that the server has to end in
 
-// PATH is not among them: the server starts no program. The last ones tell a program of a build
+// PATH is not among them: the server starts no program. It may ask a weather service, for which it
+// keeps answers and may need a proxy or other certificates. The last ones tell a program of a build
 // tree with libraries of its own, or with sanitizers, how to run.
 constexpr std::array passedOn{
-    "HOME", "XDG_CONFIG_HOME", "LANG",         "LANGUAGE",      "LC_ALL",       "LC_MESSAGES",
-    "TZ",   "TZDIR",           "ASAN_OPTIONS", "UBSAN_OPTIONS", "TSAN_OPTIONS", "LD_LIBRARY_PATH",
+    "HOME",         "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "LANG",
+    "LANGUAGE",     "LC_ALL",          "LC_MESSAGES",    "TZ",
+    "TZDIR",        "http_proxy",      "https_proxy",    "no_proxy",
+    "HTTPS_PROXY",  "NO_PROXY",        "SSL_CERT_FILE",  "SSL_CERT_DIR",
+    "ASAN_OPTIONS", "UBSAN_OPTIONS",   "TSAN_OPTIONS",   "LD_LIBRARY_PATH",
 };
 
 QProcessEnvironment smallEnvironment() {
