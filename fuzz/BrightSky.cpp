@@ -1,7 +1,8 @@
 // An answer where one of Bright Sky is expected.
+#include "weather/BrightSky.h"
+
 #include "Surroundings.h"
 #include "WeatherAnswer.h"
-#include "weather/BrightSky.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     zephyrix::fuzz::checkAnswer(zephyrix::BrightSky(), zephyrix::fuzz::bytesOf(data, size));
