@@ -1,11 +1,11 @@
 # A room is one folder of src/ and one static library. Its headers are found only by the targets that
 # link it, so that an include against the arrows of docs/architecture.md does not compile.
 #
-#   zephyrix_room(<folder> SOURCES <files...> USES <libraries and rooms...>)
+#   zephyrix_room(<folder> SOURCES <files...> USES <libraries and rooms...> [PRELUDE <name>])
 #
-# Include a header as "folder/Header.h".
+# Include a header as "folder/Header.h". Its files begin with the prelude "core" unless one is named.
 function(zephyrix_room folder)
-    cmake_parse_arguments(PARSE_ARGV 1 room "" "" "SOURCES;USES")
+    cmake_parse_arguments(PARSE_ARGV 1 room "" "PRELUDE" "SOURCES;USES")
     set(target zephyrix_${folder})
     add_library(${target} STATIC ${room_SOURCES})
     add_library(Zephyrix::${folder} ALIAS ${target})
@@ -13,6 +13,10 @@ function(zephyrix_room folder)
     target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${root}>")
     target_link_libraries(${target}
         PUBLIC ${room_USES} PRIVATE "$<BUILD_INTERFACE:zephyrix_compiler>")
+    if(NOT room_PRELUDE)
+        set(room_PRELUDE core)
+    endif()
+    zephyrix_begin_with(${target} ${room_PRELUDE})
 endfunction()
 
 # Makes a folder that holds nothing but a link to src/<folder>, and gives its path back.
@@ -37,17 +41,22 @@ endfunction()
 
 # The tests of a room: one program, one entry of ctest. It links that room and nothing above it.
 #
-#   zephyrix_test(<name> SOURCES <files...> USES <libraries and rooms...>)
+#   zephyrix_test(<name> SOURCES <files...> USES <libraries and rooms...> [PRELUDE <name>])
 #
-# Its files find their reference data below TEST_DATA_DIR.
+# Its files find their reference data below TEST_DATA_DIR. They begin with the prelude "test" unless
+# one is named.
 function(zephyrix_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 test "" "" "SOURCES;USES")
+    cmake_parse_arguments(PARSE_ARGV 1 test "" "PRELUDE" "SOURCES;USES")
     add_executable(${name} ${test_SOURCES})
     target_link_libraries(${name} PRIVATE zephyrix_test_support ${test_USES} zephyrix_compiler)
     target_compile_definitions(${name} PRIVATE
         TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
         PROGRAM_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}"
         SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    if(NOT test_PRELUDE)
+        set(test_PRELUDE test)
+    endif()
+    zephyrix_begin_with(${name} ${test_PRELUDE})
     add_test(NAME ${name} COMMAND ${name})
     # The system's Qt is built without the thread sanitizer, which cannot see how its threads hand over:
     # what other libraries call is left out. tests/support/ThreadSanitizer.h tells what it cannot judge.

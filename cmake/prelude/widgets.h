@@ -1,0 +1,8 @@
+// Parsed once for the files of a target that names it: see cmake/Prelude.cmake. Included by nothing else.
+#include "core.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QLabel>
+#include <QPainter>
+#include <QWidget>
