@@ -12,6 +12,7 @@
 #include "FeedAddress.h"
 #include "LivePanel.h"
 #include "OnlyInstance.h"
+#include "PaintTime.h"
 #include "PanelDisplay.h"
 #include "RowReport.h"
 #include "TerminationSignals.h"
@@ -47,6 +48,8 @@ class Panel {
         display.hold(*live_);
         display_ = &display;
         QObject::connect(&instance, &OnlyInstance::shownAgain, &display, &PanelDisplay::show);
+        if (options_.paintTime)
+            tellPaintTimes();
         display.show();
         const int status = QApplication::exec();
         display.hide();
@@ -103,6 +106,18 @@ class Panel {
         display_->hold(*live_);
     }
 
+    /// Of the first paint, and of the first one that shows a fetched document.
+    void tellPaintTimes() {
+        paintTime_ = std::make_unique<PaintTime>();
+        QObject::connect(
+            &controller(), &TodayViewController::refreshed, paintTime_.get(),
+            [this](bool succeeded) {
+                if (succeeded)
+                    paintTime_->awaitPaint(QStringLiteral("fetched document"));
+            },
+            Qt::SingleShotConnection);
+    }
+
     int writePicture(const QString& file) {
         const QSize size(width(), live_->view().panelHeight());
         QImage picture((QSizeF(size) * scale()).toSize(), QImage::Format_ARGB32_Premultiplied);
@@ -123,7 +138,8 @@ class Panel {
     DesktopContext context_;
     std::unique_ptr<LivePanel> live_;
     QObject receiver_;
-    PanelDisplay* display_ = nullptr;  // while it is not only a report
+    std::unique_ptr<PaintTime> paintTime_;  // where it is asked for
+    PanelDisplay* display_ = nullptr;       // while it is not only a report
 };
 
 }  // namespace

@@ -31,6 +31,7 @@ constexpr std::array options{
     OptionRow{"scheme", "NAME", "light or dark (the desktop's)"},
     OptionRow{"feed", "URL", "the feed server's address, https unless it says http"},
     OptionRow{"allow-plain-http", nullptr, "also a feed on another machine without encryption"},
+    OptionRow{"paint-time", nullptr, "print how long the first paint on the screen took"},
     OptionRow{"help", nullptr, "this text"},
     OptionRow{"version", nullptr, "the version"},
 };
@@ -89,6 +90,7 @@ PanelOptions PanelOptions::parse(const QStringList& arguments) {
     asked.json = isSet("json");
     asked.expanded = isSet("expanded");
     asked.feed.allowPlainHttp = isSet("allow-plain-http");
+    asked.paintTime = isSet("paint-time");
     if (asked.text && asked.json)
         throw Error(QStringLiteral("--text and --json cannot be printed together"));
     if (isSet("snapshot"))

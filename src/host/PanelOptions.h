@@ -21,6 +21,7 @@ struct PanelOptions {
     bool text = false;                // print what the rows show, for people
     bool json = false;                // the same for programs
     bool expanded = false;            // begin with the forecast row
+    bool paintTime = false;           // print how long it took until the panel was painted
     std::optional<QString> snapshot;  // the picture file to write
     double width = 440.0;             // of the panel, in points
     std::optional<double> scale;      // device pixels a point; the screen's unless given

@@ -1,6 +1,7 @@
 #include <QStringList>
 #include <QTextStream>
 
+#include "PaintTime.h"
 #include "PanelApplication.h"
 #include "PanelOptions.h"
 
@@ -25,8 +26,11 @@ int main(int argc, char** argv) {
             out << PanelOptions::helpText();
         else if (options.version)
             out << "zephyrix-panel " ZEPHYRIX_VERSION "\n";
-        else
+        else {
+            if (options.paintTime)
+                PaintTime::noteStart(argv);
             return runPanel(options, argv[0], out);
+        }
         return 0;
     } catch (const PanelOptions::Error& error) {
         err << "zephyrix-panel: " << error.text() << "\nTry \"zephyrix-panel --help\".\n";

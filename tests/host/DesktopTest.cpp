@@ -115,6 +115,23 @@ TEST_F(DesktopTest, FetchesExpandsByKeyboardAndStartsAgainFromItsCache) {
     EXPECT_TRUE(waitUntil([this] { return process_.state() == QProcess::NotRunning; }));
 }
 
+TEST_F(DesktopTest, TellsHowLongItsPaintsTook) {
+    startWithFeed({toWindow, QStringLiteral("--paint-time")});
+    QByteArray told;
+    EXPECT_TRUE(waitUntil([&] {
+        told += process_.readAllStandardOutput();
+        return told.count('\n') == 2;
+    })) << told.toStdString();
+    const auto line = [](const char* paint) {
+        return std::string(paint) + ": [0-9.]+ ms, processor [0-9.]+ ms, memory [0-9.]+ MB\n";
+    };
+    EXPECT_THAT(told.toStdString(),
+                ::testing::MatchesRegex(line("first paint") + line("fetched document")));
+    const double milliseconds = told.mid(told.indexOf(": ") + 2).split(' ').first().toDouble();
+    EXPECT_GT(milliseconds, 1.0);
+    EXPECT_LT(milliseconds, 60'000.0) << "from the program's start, not from the machine's";
+}
+
 TEST_F(DesktopTest, PlaceAndUnitsOfAnotherProgramShowAtOnce) {
     startWithFeed({toWindow});
     const auto window = windowWithSource("a test");

@@ -16,13 +16,14 @@ PanelOptions parse(const char* line) {
 
 TEST(PanelOptions, AreReadFromTheCommandLine) {
     const PanelOptions none = parse("");
-    EXPECT_FALSE(none.reportsOnly() || none.window || none.expanded || none.scale);
+    EXPECT_FALSE(none.reportsOnly() || none.window || none.expanded || none.scale ||
+                 none.paintTime);
     EXPECT_TRUE(none.feed.address.isEmpty());
 
     const PanelOptions all = parse(
-        "--text --snapshot p.png --expanded --width 320 --scale=1.25 --scheme dark "
+        "--text --snapshot p.png --expanded --paint-time --width 320 --scale=1.25 --scheme dark "
         "--feed http://127.0.0.1:8080 --allow-plain-http");
-    EXPECT_TRUE(all.reportsOnly() && all.text && all.expanded);
+    EXPECT_TRUE(all.reportsOnly() && all.text && all.expanded && all.paintTime);
     EXPECT_EQ(all.snapshot, QStringLiteral("p.png"));
     EXPECT_EQ(all.width, 320);
     EXPECT_EQ(all.scale, 1.25);
