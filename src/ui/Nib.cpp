@@ -1,18 +1,13 @@
 #include "Nib.h"
 
-#include <memory>
 #include <utility>
 
-#include <QBuffer>
-#include <QCoreApplication>
 #include <QHash>
-#include <QUiLoader>
-#include <QXmlStreamReader>
-#include <QXmlStreamWriter>
 
 #include "Hairline.h"
 #include "ImageView.h"
 #include "Label.h"
+#include "LayoutReader.h"
 #include "TableCell.h"
 #include "TableView.h"
 #include "TextButton.h"
@@ -36,6 +31,7 @@ Factories& factories() {
         {QStringLiteral("Hairline"), factoryOf<Hairline>()},
         {QStringLiteral("ImageView"), factoryOf<ImageView>()},
         {QStringLiteral("Label"), factoryOf<Label>()},
+        {QStringLiteral("QWidget"), factoryOf<QWidget>()},
         {QStringLiteral("TableCell"), factoryOf<TableCell>()},
         {QStringLiteral("TableView"), factoryOf<TableView>()},
         {QStringLiteral("TextButton"), factoryOf<TextButton>()},
@@ -44,49 +40,9 @@ Factories& factories() {
     return known;
 }
 
-// Knows the project's classes by name; everything else is the toolkit's own.
-class Loader : public QUiLoader {
-  public:
-    QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
-        const auto factory = factories().constFind(className);
-        QWidget* widget = nullptr;
-        if (factory != factories().constEnd())
-            widget = (*factory)(parent);
-        else if (availableWidgets().contains(className))
-            return QUiLoader::createWidget(className, parent, name);
-        else
-            fatalError(QStringLiteral("a layout asks for the unknown class \"%1\"").arg(className));
-        widget->setObjectName(name);
-        return widget;
-    }
-};
-
-// The constructor would load every Designer plugin of the machine (milliseconds and megabytes) for
-// widgets that no layout here uses, so it is shown an empty library path.
-std::unique_ptr<Loader> makeLoader() {
-    const QStringList paths = QCoreApplication::libraryPaths();
-    QCoreApplication::setLibraryPaths({});
-    auto loader = std::make_unique<Loader>();
-    loader->clearPluginPaths();
-    QCoreApplication::setLibraryPaths(paths);
-    return loader;
-}
-
-// Without what only an editor needs: blanks between elements, comments, and the list of own
-// classes, which the loader knows by itself. Reading the description is most of the work of an
-// instance. A description that is no XML stays as it is, for the loader to complain about.
-QByteArray withoutEditorsParts(const QByteArray& description) {
-    QByteArray compact;
-    QXmlStreamReader reader(description);
-    QXmlStreamWriter writer(&compact);
-    while (!reader.atEnd()) {
-        reader.readNext();
-        if (reader.isStartElement() && reader.name() == QLatin1String("customwidgets"))
-            reader.skipCurrentElement();
-        else if (!reader.isWhitespace() && !reader.isComment() && !reader.hasError())
-            writer.writeCurrentToken(reader);
-    }
-    return reader.hasError() ? description : compact;
+QWidget* newWidget(const QString& className, QWidget* parent) {
+    const auto factory = factories().constFind(className);
+    return factory == factories().constEnd() ? nullptr : (*factory)(parent);
 }
 
 template <class Visit>
@@ -100,23 +56,20 @@ void visitChildrenFirst(QWidget* root, const Visit& visit) {
 
 }  // namespace
 
-Nib::Nib(QString name) : name_(std::move(name)) {
-    description_ = withoutEditorsParts(Bundle::main().layout(name_).value_or(QByteArray()));
-}
+Nib::Nib(QString name) : name_(std::move(name)) {}
 
 Nib::Nib(QString name, const QByteArray& description)
-    : name_(std::move(name)), description_(withoutEditorsParts(description)) {}
+    : name_(std::move(name)), description_(description) {}
 
 QWidget* Nib::instantiate(QWidget* parent) const {
-    static const std::unique_ptr<Loader> loader = makeLoader();
-    if (description_.isEmpty())
+    if (!description_)
+        description_ = Bundle::main().layout(name_).value_or(QByteArray());
+    if (description_->isEmpty())
         return nullptr;
-    QBuffer buffer;
-    buffer.setData(description_);
-    buffer.open(QIODevice::ReadOnly);
-    QWidget* root = loader->load(&buffer, parent);
+    LayoutReader reader(name_, *description_, newWidget);
+    QWidget* const root = reader.read(parent);
     if (root == nullptr) {
-        logLine(QStringLiteral("layout \"%1\": %2").arg(name_, loader->errorString()));
+        logLine(QStringLiteral("layout \"%1\": %2").arg(name_, reader.errorString()));
         return nullptr;
     }
     visitChildrenFirst(root, [](NibObject& object) { object.connectOutlets(); });

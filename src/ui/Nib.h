@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QByteArray>
 #include <QString>
@@ -58,7 +59,7 @@ class Nib {
 
   private:
     QString name_;
-    QByteArray description_;
+    mutable std::optional<QByteArray> description_;  // read from the bundle when it is needed
 };
 
 /// The view of this name below `root`. A missing one, or one of another class, is a mistake in the

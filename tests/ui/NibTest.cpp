@@ -1,3 +1,4 @@
+#include <QGridLayout>
 #include <QLabel>
 #include <gtest/gtest.h>
 
@@ -51,9 +52,60 @@ TEST(Nib, EachInstanceIsItsOwn) {
     EXPECT_NE(first->textLabel(), second->textLabel());
 }
 
+// Each kind of value, layout and item that the shipped layouts use.
+TEST(Nib, ViewsAreAsDescribed) {
+    const Nib nib = nibOf(
+        "<widget class=\"View\" name=\"root\">"
+        "<property name=\"geometry\"><rect><x>0</x><y>0</y><width>200</width>"
+        "<height>50</height></rect></property>"
+        "<layout class=\"QHBoxLayout\" name=\"row\" stretch=\"1,0,0\">"
+        "<property name=\"spacing\"><number>0</number></property>"
+        "<property name=\"leftMargin\"><number>3</number></property>"
+        "<property name=\"topMargin\"><number>0</number></property>"
+        "<property name=\"rightMargin\"><number>5</number></property>"
+        "<property name=\"bottomMargin\"><number>0</number></property>"
+        "<item><widget class=\"Label\" name=\"label\">"
+        "<property name=\"alignment\"><set>Qt::AlignTrailing|Qt::AlignBottom</set></property>"
+        "<property name=\"sizePolicy\"><sizepolicy hsizetype=\"Ignored\" vsizetype=\"Fixed\"/>"
+        "</property><property name=\"wordWrap\"><bool>true</bool></property>"
+        "<property name=\"minimumScale\"><double>0.5</double></property></widget></item>"
+        "<item><spacer name=\"gap\"><property name=\"orientation\"><enum>Qt::Horizontal</enum>"
+        "</property><property name=\"sizeType\"><enum>QSizePolicy::Fixed</enum></property>"
+        "<property name=\"sizeHint\" stdset=\"0\"><size><width>12</width><height>1</height></size>"
+        "</property></spacer></item>"
+        "<item><layout class=\"QGridLayout\" name=\"grid\" columnstretch=\"0,1\">"
+        "<property name=\"horizontalSpacing\"><number>7</number></property>"
+        "<item row=\"1\" column=\"1\" alignment=\"Qt::AlignHCenter\">"
+        "<widget class=\"View\" name=\"inGrid\"><property name=\"minimumSize\"><size>"
+        "<width>30</width><height>10</height></size></property></widget></item>"
+        "</layout></item></layout></widget>");
+    const std::unique_ptr<View> root(nib.instantiate<View>(nullptr));
+    activateLayouts(root.get());
+    const auto* label = outlet<Label>(root.get(), QStringLiteral("label"));
+    EXPECT_EQ(label->alignment(), Qt::AlignTrailing | Qt::AlignBottom);
+    EXPECT_EQ(label->sizePolicy().horizontalPolicy(), QSizePolicy::Ignored);
+    EXPECT_EQ(label->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+    EXPECT_TRUE(label->wordWrap());
+    EXPECT_EQ(label->minimumScale(), 0.5);
+    EXPECT_EQ(label->x(), 3);
+    const auto* inGrid = outlet<View>(root.get(), QStringLiteral("inGrid"));
+    EXPECT_EQ(inGrid->parentWidget(), root.get());
+    EXPECT_EQ(inGrid->geometry().right(), 200 - 5 - 1);
+    EXPECT_EQ(label->geometry().right() + 1 + 12, inGrid->x()) << "the gap lies between";
+    const auto* grid = root->findChild<QGridLayout*>(QStringLiteral("grid"));
+    ASSERT_NE(grid, nullptr);
+    EXPECT_EQ(grid->columnStretch(1), 1);
+    EXPECT_EQ(grid->horizontalSpacing(), 7);
+    EXPECT_EQ(grid->itemAtPosition(1, 1)->alignment(), Qt::AlignHCenter);
+}
+
 TEST(Nib, WithoutOrWithABrokenDescriptionGivesNothing) {
     EXPECT_EQ(Nib(QStringLiteral("NoSuchLayout")).instantiate(), nullptr);
-    EXPECT_EQ(Nib(QStringLiteral("Test"), "<ui version=\"4.0\"><widget").instantiate(), nullptr);
+    const QByteArray whole =
+        "<ui version=\"4.0\"><widget class=\"View\" name=\"v\"><property name=\"geometry\"><rect>"
+        "<x>1</x></rect></property><layout class=\"QHBoxLayout\" name=\"l\"><item>";
+    for (qsizetype length = 1; length <= whole.size(); ++length)
+        EXPECT_EQ(Nib(QStringLiteral("Test"), whole.left(length)).instantiate(), nullptr) << length;
 }
 
 TEST(NibDeathTest, MistakesInADescriptionStopWithALineThatNamesThem) {
@@ -68,6 +120,14 @@ TEST(NibDeathTest, MistakesInADescriptionStopWithALineThatNamesThem) {
     EXPECT_DEATH(
         static_cast<void>(nibOf("<widget class=\"NoSuchView\" name=\"x\"/>").instantiate()),
         "unknown class \"NoSuchView\"");
+    EXPECT_DEATH(static_cast<void>(nibOf("<widget class=\"View\" name=\"x\"><property "
+                                         "name=\"colour\"><number>1</number></property></widget>")
+                                       .instantiate()),
+                 "\"Test\" gives \"x\" a \"colour\" that it cannot have");
+    EXPECT_DEATH(
+        static_cast<void>(
+            nibOf("<widget class=\"View\" name=\"x\"><action name=\"a\"/></widget>").instantiate()),
+        "unknown element <action>");
     EXPECT_DEATH(
         static_cast<void>(
             nibOf("<widget class=\"QWidget\" name=\"x\"/>").instantiate<TableCell>(nullptr)),
