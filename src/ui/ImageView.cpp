@@ -1,5 +1,7 @@
 #include "ImageView.h"
 
+#include <algorithm>
+
 #include <QEvent>
 #include <QPainter>
 
@@ -8,6 +10,13 @@
 #include "foundation/Bundle.h"
 
 namespace zephyrix {
+
+namespace {
+
+// Turning blurs by half a pixel, which is not seen when it happens at twice the size.
+constexpr int turnedAt = 2;
+
+}  // namespace
 
 ImageView::ImageView(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -48,6 +57,19 @@ QString ImageView::catalogueName() const {
     return Bundle::main().pathForImage(name).isEmpty() ? imageName_ : name;
 }
 
+// Most screens need no more than the half size, which is a quarter of the work.
+void ImageView::readCatalogueImage(const QSize& pixels) {
+    constexpr int halfSize = 120;  // pixels
+    const bool needsAll = std::max(pixels.width(), pixels.height()) > halfSize;
+    if (!image_.isNull() && !(isHalf_ && needsAll))
+        return;
+    const QString name = catalogueName();
+    const QString half = Bundle::main().pathForImage(QStringLiteral("half/") + name);
+    isHalf_ = !needsAll && !half.isEmpty();
+    image_ = QImage(isHalf_ ? half : Bundle::main().pathForImage(name));
+    ready_ = QImage();
+}
+
 void ImageView::setRotation(double degrees) {
     if (degrees == rotation_)
         return;
@@ -78,20 +100,21 @@ QImage ImageView::turned(const QImage& source) const {
 }
 
 void ImageView::paintEvent(QPaintEvent* /*event*/) {
-    if (image_.isNull() && !imageName_.isEmpty())
-        image_ = QImage(Bundle::main().pathForImage(catalogueName()));
-    if (image_.isNull())
+    if (image_.isNull() && imageName_.isEmpty())
         return;
     QPainter painter(this);
     const DeviceGrid grid(painter);
     const double ratio = grid.scale();
     const QSize pixels = (QSizeF(size()) * ratio).toSize();
+    if (!imageName_.isEmpty())
+        readCatalogueImage(rotation_ == 0.0 ? pixels : pixels * turnedAt);
+    if (image_.isNull())
+        return;
     if (ready_.isNull() || ready_.devicePixelRatio() != ratio ||
         (ready_.width() != pixels.width() && ready_.height() != pixels.height())) {
-        // Turning blurs by half a pixel, which is not seen when it happens at twice the size.
         ready_ = rotation_ == 0.0
                      ? fitted(pixels)
-                     : turned(fitted(pixels * 2))
+                     : turned(fitted(pixels * turnedAt))
                            .scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         ready_.setDevicePixelRatio(ratio);
     }

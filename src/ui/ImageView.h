@@ -9,7 +9,8 @@ namespace zephyrix {
 /// any device pixel ratio. It may be turned about the view's centre.
 class ImageView : public QWidget {
     Q_OBJECT
-    /// An image of the bundle's catalogue ("WindLabelSquare.png"); read when it is first painted.
+    /// An image of the bundle's catalogue ("WindLabelSquare.png"); read when it is first painted,
+    /// at half size ("half/WindLabelSquare.png") where that has enough pixels.
     Q_PROPERTY(QString imageName READ imageName WRITE setImageName)
     /// Takes the catalogue's image for the theme's ground instead: "WindLabelSquare-light.png" or
     /// "WindLabelSquare-dark.png", and the plain one where there is none for it.
@@ -40,12 +41,14 @@ class ImageView : public QWidget {
   private:
     [[nodiscard]] QString catalogueName() const;
     void forgetCatalogueImage();
+    void readCatalogueImage(const QSize& pixels);
     [[nodiscard]] QImage fitted(const QSize& pixels) const;
     [[nodiscard]] QImage turned(const QImage& source) const;
 
     QImage image_;
     QImage ready_;  // what was painted last, in device pixels; null after a change
     QString imageName_;
+    bool isHalf_ = false;  // the image is the catalogue's at half size
     double rotation_ = 0.0;
     bool followsScheme_ = false;
 };
