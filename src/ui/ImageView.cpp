@@ -93,9 +93,17 @@ QImage ImageView::turned(const QImage& source) const {
     canvas.fill(Qt::transparent);
     QPainter painter(&canvas);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.translate(canvas.width() / 2.0, canvas.height() / 2.0);
-    painter.rotate(rotation_);
-    painter.drawImage(QPointF(-source.width() / 2.0, -source.height() / 2.0), source);
+    // In bands: Qt gives more rows to threads of its own, which wake up once more half a minute
+    // later.
+    constexpr int rowsAtOnce = 64;
+    for (int top = 0; top < canvas.height(); top += rowsAtOnce) {
+        painter.save();
+        painter.setClipRect(0, top, canvas.width(), rowsAtOnce);
+        painter.translate(canvas.width() / 2.0, canvas.height() / 2.0);
+        painter.rotate(rotation_);
+        painter.drawImage(QPointF(-source.width() / 2.0, -source.height() / 2.0), source);
+        painter.restore();
+    }
     return canvas;
 }
 
