@@ -1,8 +1,9 @@
 #include "FeedAnswer.h"
 
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QJsonParseError>
-#include <QVariantMap>
+#include <QJsonValue>
 
 #include "foundation/Clock.h"
 
@@ -11,22 +12,20 @@ namespace zephyrix {
 namespace {
 
 /// The value under "first" > "second"; nothing where the way there is no dictionary.
-QVariant valueAt(const QVariantMap& top, const QString& first, const QString& second) {
-    const auto inner = dictionaryFrom(top.value(first));
-    return inner ? inner->value(second) : QVariant();
+QJsonValue valueAt(const QJsonObject& top, QLatin1String first, QLatin1String second) {
+    return top.value(first).toObject().value(second);
 }
 
-WeatherData documentFrom(const QVariantMap& top, const Number& locationID) {
+WeatherData documentFrom(const QJsonObject& top, const Number& locationID) {
     WeatherData document;
-    const QVariant lastObs = valueAt(top, QStringLiteral("obs"), QStringLiteral("lastObs"));
-    if (const auto observation = dictionaryFrom(lastObs)) {
-        document.obs = Obs(*observation);
+    const QJsonValue lastObs = valueAt(top, QLatin1String("obs"), QLatin1String("lastObs"));
+    if (lastObs.isObject()) {
+        document.obs = Obs(lastObs.toObject().toVariantMap());
         document.uid = locationID;
         document.insertDtg = Clock::now();
     }
-    const QVariant days = valueAt(top, QStringLiteral("forecast"), QStringLiteral("days"));
-    if (const auto inner = dictionaryFrom(days))
-        document.forecast = listOfDictionaries(inner->value(QStringLiteral("day")));
+    const QJsonValue days = valueAt(top, QLatin1String("forecast"), QLatin1String("days"));
+    document.forecast = listOfDictionaries(days.toObject().value(QLatin1String("day")).toVariant());
     return document;
 }
 
@@ -36,11 +35,10 @@ FeedAnswer FeedAnswer::fromBody(const QByteArray& body, const Number& locationID
     if (body.isEmpty())
         return {};
     QJsonParseError failure;
-    const QVariant top = QJsonDocument::fromJson(body, &failure).toVariant();
+    const QJsonDocument top = QJsonDocument::fromJson(body, &failure);
     if (failure.error != QJsonParseError::NoError)
         return {{}, FeedError{FeedError::parserDomain, failure.error, failure.errorString()}};
-    const auto dictionary = dictionaryFrom(top);
-    return {dictionary ? documentFrom(*dictionary, locationID) : WeatherData(), std::nullopt};
+    return {documentFrom(top.object(), locationID), std::nullopt};
 }
 
 }  // namespace zephyrix
