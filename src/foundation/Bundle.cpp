@@ -5,7 +5,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 namespace zephyrix {
 
@@ -25,8 +24,10 @@ constexpr std::array languages{"en", "de", "pl", "nl", "fr", "es", "sv", "it", "
 /// "de" for "de_AT.UTF-8" and "DE"; empty for a language without a string table. "C" and "POSIX"
 /// are English.
 QString languageOf(const QString& locale) {
-    static const QRegularExpression rest(QStringLiteral("[-_.@].*$"));
-    const QString name = QString(locale).remove(rest).toLower();
+    const QString ends = QStringLiteral("-_.@");
+    const auto end = std::find_if(locale.begin(), locale.end(),
+                                  [&](QChar character) { return ends.contains(character); });
+    const QString name = locale.left(end - locale.begin()).toLower();
     if (name == QLatin1String("c") || name == QLatin1String("posix"))
         return QStringLiteral("en");
     const bool known = std::any_of(languages.begin(), languages.end(), [&](const char* language) {
