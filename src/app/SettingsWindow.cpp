@@ -7,7 +7,7 @@
 #include "Command.h"
 #include "PlaceCommand.h"
 #include "SharedSettings.h"
-#include "foundation/Bundle.h"
+#include "foundation/Localized.h"
 #include "foundation/Log.h"
 
 namespace zephyrix {
@@ -28,10 +28,6 @@ QString placeText() {
     return lines.join(QLatin1Char('\n'));
 }
 
-QString localized(const QString& key) {
-    return Bundle::main().localizedString(key);
-}
-
 /// "wind" is the key of a setting, "Wind" that of its translation.
 QString nameOf(const QuantityUnits& quantity) {
     QString key = quantity.name.toString();
@@ -45,7 +41,7 @@ SettingsWindow::SettingsWindow() : settings_(openSharedSettings()), place_(new Q
     setWindowTitle(QStringLiteral("Zephyrix"));
     auto* const form = new QFormLayout(this);
     place_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    form->addRow(localized(QStringLiteral("Place")), place_);
+    form->addRow(localized(u"Place"), place_);
     for (const QuantityUnits& quantity : allQuantities)
         if (quantity.isSetting)
             addChoice(quantity);
@@ -61,7 +57,7 @@ void SettingsWindow::addChoice(const QuantityUnits& quantity) {
     auto* const box = new QComboBox(this);
     box->setObjectName(quantity.name.toString());
     for (const Unit& unit : quantity.units)
-        box->addItem(localized(unit.text.toString()), static_cast<qlonglong>(unit.code));
+        box->addItem(localized(unit.text), static_cast<qlonglong>(unit.code));
     choices_.push_back({&quantity, box});
 }
 

@@ -6,10 +6,10 @@
 #include <QStyle>
 
 #include "SpokenWeather.h"
-#include "foundation/Bundle.h"
 #include "foundation/Clock.h"
 #include "foundation/FatalError.h"
 #include "foundation/GregorianCalendar.h"
+#include "foundation/Localized.h"
 #include "foundation/Screen.h"
 #include "foundation/TimeZone.h"
 #include "meteo/MeteoMapping.h"
@@ -209,9 +209,7 @@ ForecastDayView* ForecastCell::instantiateAndConfigureForecastDayViewForIndex(in
 QString ForecastCell::spokenText() const {
     if (!location_ || spokenDays_.isEmpty())
         return {};
-    const QString title = Bundle::main()
-                              .localizedString(QStringLiteral("forecast for %1"))
-                              .arg(location_->name().value_or(QString()));
+    const QString title = localized(u"forecast for %1").arg(location_->name().value_or(QString()));
     return title + QStringLiteral(": ") + spokenDays_.join(QStringLiteral("; "));
 }
 

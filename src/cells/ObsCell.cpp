@@ -5,6 +5,7 @@
 #include "foundation/Bundle.h"
 #include "foundation/Clock.h"
 #include "foundation/FatalError.h"
+#include "foundation/Localized.h"
 #include "foundation/NamedException.h"
 #include "foundation/TimeZone.h"
 #include "meteo/MeteoMapping.h"
@@ -24,10 +25,6 @@ const Number& required(const std::optional<Number>& number, const char* name) {
         fatalError(QStringLiteral("an observation without \"%1\" reached its row")
                        .arg(QLatin1String(name)));
     return *number;
-}
-
-QString localized(const char* key) {
-    return Bundle::main().localizedString(QString::fromLatin1(key));
 }
 
 QString languageOfTexts() {
@@ -186,7 +183,7 @@ void ObsCell::showPrecipitation(const Obs& record, UnitCode unit) {
     rrrUnits()->setText(MeteoMapping::precipitationUnitForUnit(unit));
     const std::int64_t hours = record.rrrh ? record.rrrh->integerValue() : 0;
     if (hours >= leastNumber)
-        rrrhLabel()->setText(MeteoMapping::formattedHoursString(record.rrrh, localized("h")));
+        rrrhLabel()->setText(MeteoMapping::formattedHoursString(record.rrrh, localized(u"h")));
 }
 
 void ObsCell::showPressure(const Obs& record, UnitCode unit) {
@@ -218,7 +215,7 @@ void ObsCell::showAge(const Obs& record) {
     if (!ageLabel_)
         return;
     const auto hours = shownAge(record);
-    const QString text = hours ? localized("%1 h ago").arg(*hours) : QString();
+    const QString text = hours ? localized(u"%1 h ago").arg(*hours) : QString();
     ageLabel_->setVisible(hours.has_value());
     ageLabel_->setText(text);
     setToolTip(text);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "foundation/Bundle.h"
+#include "foundation/Localized.h"
 #include "foundation/UserDefaults.h"
 #include "meteo/MeteoMapping.h"
 #include "symbols/QKWeatherSymbols.h"
@@ -89,7 +89,7 @@ QKWindpfeil::~QKWindpfeil() {
 void QKWindpfeil::doInit() {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     if (windSpeedMaxDescLabel_)
-        windSpeedMaxDescLabel_->setText(Bundle::main().localizedString(QStringLiteral("Gusts")));
+        windSpeedMaxDescLabel_->setText(localized(u"Gusts"));
     setAutoCreateLabels(false);
 }
 
@@ -248,7 +248,7 @@ void QKWindpfeil::refreshArrow() {
     setShown(labelView_, false);
     if (!ScreenReader::isRunning() || !windPfeil_)
         return;
-    QString spoken = Bundle::main().localizedString(QStringLiteral("Wind:%d degrees %@"));
+    QString spoken = localized(u"Wind:%d degrees %@");
     spoken.replace(QStringLiteral("%d"), QString::number(integerOf(direction_)));
     spoken.replace(QStringLiteral("%@"),
                    MeteoMapping::formattedWindString(numSpeed_, ownWindUnit()));

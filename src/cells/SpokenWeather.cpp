@@ -5,34 +5,31 @@
 
 #include <QStringList>
 
-#include "foundation/Bundle.h"
+#include "foundation/Localized.h"
 
 namespace zephyrix {
 
 namespace {
 
 constexpr std::array sectorNames = {
-    "north", "north-north-east", "north-east", "east-north-east",
-    "east",  "east-south-east",  "south-east", "south-south-east",
-    "south", "south-south-west", "south-west", "west-south-west",
-    "west",  "west-north-west",  "north-west", "north-north-west",
+    u"north", u"north-north-east", u"north-east", u"east-north-east",
+    u"east",  u"east-south-east",  u"south-east", u"south-south-east",
+    u"south", u"south-south-west", u"south-west", u"west-south-west",
+    u"west",  u"west-north-west",  u"north-west", u"north-north-west",
 };
 
 // By unit code; the last one is for every other code.
-constexpr std::array windUnits = {"Beaufort",          "knots",          "kilometres per hour",
-                                  "metres per second", "miles per hour", "knots"};
-constexpr std::array precipitationUnits = {"millimetres", "inches", "millimetres"};
-constexpr std::array pressureUnits = {"hectopascals", "inches of mercury", "Torr", "hectopascals"};
+constexpr std::array windUnits = {u"Beaufort",          u"knots",          u"kilometres per hour",
+                                  u"metres per second", u"miles per hour", u"knots"};
+constexpr std::array precipitationUnits = {u"millimetres", u"inches", u"millimetres"};
+constexpr std::array pressureUnits = {u"hectopascals", u"inches of mercury", u"Torr",
+                                      u"hectopascals"};
 
 template <std::size_t size>
-QString unitName(const std::array<const char*, size>& names, UnitCode code) {
+QString unitName(const std::array<const char16_t*, size>& names, UnitCode code) {
     const auto index =
         code < 0 || code >= static_cast<UnitCode>(size) ? size - 1 : static_cast<std::size_t>(code);
-    return Bundle::main().localizedString(QString::fromLatin1(names.at(index)));
-}
-
-QString localized(const char* key) {
-    return Bundle::main().localizedString(QString::fromLatin1(key));
+    return localized(names.at(index));
 }
 
 bool isMissing(const std::optional<Number>& number) {
@@ -55,7 +52,7 @@ QString directionName(const std::optional<Number>& direction) {
     constexpr std::int64_t anySpeed = 1;  // other than calm
     const std::int64_t sector = MeteoMapping::mapWindToSector(direction->integerValue(), anySpeed);
     if (sector == MeteoMapping::variableSector)
-        return localized("from changing directions");
+        return localized(u"from changing directions");
     if (sector < 0 || sector >= static_cast<std::int64_t>(sectorNames.size()))
         return {};
     return localized(sectorNames.at(static_cast<std::size_t>(sector)));
@@ -65,9 +62,9 @@ QString spokenWind(const Obs& record, UnitCode unit) {
     if (isMissing(record.ff))
         return {};
     if (record.ff->integerValue() == 0)
-        return localized("no wind");
+        return localized(u"no wind");
     const double speed = std::round(MeteoMapping::mapKnotsToUnit(unit, record.ff->doubleValue()));
-    return localized("wind %1 %2 %3")
+    return localized(u"wind %1 %2 %3")
         .arg(directionName(record.dd), QString::number(Number(speed).integerValue()),
              unitName(windUnits, unit))
         .simplified();
@@ -76,21 +73,21 @@ QString spokenWind(const Obs& record, UnitCode unit) {
 QString spokenPrecipitation(const Obs& record, UnitCode unit) {
     if (!record.rrr || record.rrr->integerValue() < 0)
         return {};
-    QString amount = localized("precipitation %1 %2")
+    QString amount = localized(u"precipitation %1 %2")
                          .arg(MeteoMapping::formattedPrecipitationString(record.rrr, unit, true),
                               unitName(precipitationUnits, unit));
     const std::int64_t hours = isMissing(record.rrrh) ? 0 : record.rrrh->integerValue();
     if (hours <= 0)
         return amount;
     const QString period =
-        hours == 1 ? localized("in the last hour") : localized("in the last %1 hours").arg(hours);
+        hours == 1 ? localized(u"in the last hour") : localized(u"in the last %1 hours").arg(hours);
     return amount + QLatin1Char(' ') + period;
 }
 
 QString spokenPressure(const Obs& record, UnitCode unit) {
     if (!record.ppp || record.ppp->integerValue() < 0)
         return {};
-    return localized("pressure %1 %2")
+    return localized(u"pressure %1 %2")
         .arg(MeteoMapping::formattedPressureString(record.ppp, unit, true),
              unitName(pressureUnits, unit));
 }
@@ -105,7 +102,7 @@ QString sentence(QStringList parts) {
 QString spokenObservation(const Obs& record, const ShownObservation& shown,
                           const ChosenUnits& units) {
     const QString time =
-        shown.time.isEmpty() ? QString() : localized("observed at %1").arg(shown.time);
+        shown.time.isEmpty() ? QString() : localized(u"observed at %1").arg(shown.time);
     return sentence({shown.place, spokenTemperature(record.tt, units.temperature), shown.weather,
                      spokenWind(record, units.wind),
                      spokenPrecipitation(record, units.precipitation),
@@ -116,8 +113,8 @@ QString spokenDay(const QString& day, const std::optional<Number>& tx,
                   const std::optional<Number>& tn, UnitCode unit) {
     const QString high = spokenTemperature(tx, unit);
     const QString low = spokenTemperature(tn, unit);
-    return sentence({day, high.isEmpty() ? QString() : localized("high %1").arg(high),
-                     low.isEmpty() ? QString() : localized("low %1").arg(low)});
+    return sentence({day, high.isEmpty() ? QString() : localized(u"high %1").arg(high),
+                     low.isEmpty() ? QString() : localized(u"low %1").arg(low)});
 }
 
 }  // namespace zephyrix

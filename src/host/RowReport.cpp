@@ -5,15 +5,11 @@
 
 #include "cells/ForecastCell.h"
 #include "cells/ObsCell.h"
-#include "foundation/Bundle.h"
+#include "foundation/Localized.h"
 
 namespace zephyrix {
 
 namespace {
-
-QString localized(const char* key) {
-    return Bundle::main().localizedString(QLatin1String(key));
-}
 
 QString textOf(const QLabel* label) {
     return label == nullptr ? QString() : label->text();
@@ -87,10 +83,10 @@ QStringList observationLines(const QJsonObject& row) {
         direction.isDouble() ? QStringLiteral("%1°").arg(direction.toDouble()) : QString();
     return line({}, {text(row, "place"), text(row, "time")}) +
            line({}, {text(row, "temperature"), text(row, "weather")}) +
-           line(localized("Wind"), {text(wind, "speed"), text(wind, "unit"), from}) +
-           line(localized("Precipitation"),
+           line(localized(u"Wind"), {text(wind, "speed"), text(wind, "unit"), from}) +
+           line(localized(u"Precipitation"),
                 {text(rain, "amount"), text(rain, "unit"), text(rain, "period")}) +
-           line(localized("Pressure"), {text(pressure, "value"), text(pressure, "unit")});
+           line(localized(u"Pressure"), {text(pressure, "value"), text(pressure, "unit")});
 }
 
 QStringList forecastLines(const QJsonObject& row) {
@@ -149,7 +145,7 @@ QString RowReport::text() const {
 
 QString RowReport::source(const TodayViewController& controller) {
     const QString name = toldBy(controller, "source");
-    return name == QLatin1String("demonstration") ? localized("Demonstration weather") : name;
+    return name == QLatin1String("demonstration") ? localized(u"Demonstration weather") : name;
 }
 
 QString RowReport::licence(const TodayViewController& controller) {

@@ -3,7 +3,7 @@
 #include <QApplication>
 
 #include "RowReport.h"
-#include "foundation/Bundle.h"
+#include "foundation/Localized.h"
 #include "symbols/QKCompoundSymbol.h"
 
 namespace zephyrix {
@@ -19,8 +19,7 @@ constexpr long long fairWeather = 1200000;  // sun and some clouds, before any w
 TrayIcon::TrayIcon() {
     menu_.addAction(program, this, &TrayIcon::showWanted);
     menu_.addSeparator();
-    menu_.addAction(Bundle::main().localizedString(QStringLiteral("Quit")), qApp,
-                    &QApplication::quit);
+    menu_.addAction(localized(u"Quit"), qApp, &QApplication::quit);
     icon_.setContextMenu(&menu_);
     connect(&icon_, &QSystemTrayIcon::activated, this, [this](auto reason) {
         if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)

@@ -1,7 +1,7 @@
 #include <cmath>
 
-#include "Localized.h"
 #include "MeteoMapping.h"
+#include "foundation/Localized.h"
 
 namespace zephyrix {
 

@@ -3,8 +3,8 @@
 
 #include <QStringList>
 
-#include "Localized.h"
 #include "MeteoMapping.h"
+#include "foundation/Localized.h"
 
 namespace zephyrix {
 

@@ -5,8 +5,8 @@
 #include "TodayViewController.h"
 #include "cells/ForecastCell.h"
 #include "cells/ObsCell.h"
-#include "foundation/Bundle.h"
 #include "foundation/FatalError.h"
+#include "foundation/Localized.h"
 #include "ui/VisualEffectView.h"
 
 namespace zephyrix {
@@ -16,10 +16,6 @@ namespace {
 using Rows = TodayViewController::TableViewConstants;
 
 const QColor halfWhite(255, 255, 255, 128);
-
-QString localized(const char* key) {
-    return Bundle::main().localizedString(QLatin1String(key));
-}
 
 }  // namespace
 
@@ -42,7 +38,7 @@ TableCell* TodayViewController::cellForRowAtIndexPath(const IndexPath& path) {
 
 TableCell* TodayViewController::firstRow(const IndexPath& path) {
     if (!location_)
-        return messageRow(path, localized("Please open Zephyrix to activate the widget."));
+        return messageRow(path, localized(u"Please open Zephyrix to activate the widget."));
     if (!lastWeatherData_)
         return messageRow(path, QString());
     return weatherRow<ObsCell>(Rows::CellIdentifiers::obsCell, path, lastWeatherData_->obs);
@@ -117,7 +113,7 @@ void TodayViewController::didPressButton(QAbstractButton* /*button*/) {
 void TodayViewController::setShowingAll(bool showingAll) {
     showingAll_ = showingAll;
     if (moreButton_)
-        moreButton_->setText(localized(showingAll ? "Show less..." : "Show more..."));
+        moreButton_->setText(localized(showingAll ? u"Show less..." : u"Show more..."));
     resetContentSize();
 }
 

@@ -3,11 +3,11 @@
 #include <QString>
 #include <QStringView>
 
-#include "foundation/Bundle.h"
+#include "Bundle.h"
 
 namespace zephyrix {
 
-/// The translation of a key that lives as long as the program, as a string literal does.
+/// The text for a key, which is the English text, in the user's language: localized(u"Quit").
 [[nodiscard]] inline QString localized(QStringView key) {
     return Bundle::main().localizedString(QString::fromRawData(key.data(), key.size()));
 }
