@@ -84,8 +84,20 @@
         <translation>Grad Celsius</translation>
     </message>
     <message>
+        <source>degrees Celsius</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Grad Celsius</translation>
+    </message>
+    <message>
         <source>degrees Fahrenheit</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>Grad Fahrenheit</translation>
+    </message>
+    <message>
+        <source>degrees Fahrenheit</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>Grad Fahrenheit</translation>
     </message>
     <message>
@@ -94,8 +106,20 @@
         <translation>Kelvin</translation>
     </message>
     <message>
+        <source>Kelvin</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Kelvin</translation>
+    </message>
+    <message>
         <source>Beaufort</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>Beaufort</translation>
+    </message>
+    <message>
+        <source>Beaufort</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>Beaufort</translation>
     </message>
     <message>
@@ -104,8 +128,20 @@
         <translation>Knoten</translation>
     </message>
     <message>
+        <source>knots</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Knoten</translation>
+    </message>
+    <message>
         <source>kilometres per hour</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>Kilometer pro Stunde</translation>
+    </message>
+    <message>
+        <source>kilometres per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>Kilometer pro Stunde</translation>
     </message>
     <message>
@@ -114,13 +150,31 @@
         <translation>Meter pro Sekunde</translation>
     </message>
     <message>
+        <source>metres per second</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Meter pro Sekunde</translation>
+    </message>
+    <message>
         <source>miles per hour</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>Meilen pro Stunde</translation>
     </message>
     <message>
+        <source>miles per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Meile pro Stunde</translation>
+    </message>
+    <message>
         <source>hectopascals</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>Hektopascal</translation>
+    </message>
+    <message>
+        <source>hectopascals</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>Hektopascal</translation>
     </message>
     <message>
@@ -129,13 +183,31 @@
         <translation>Zoll Quecksilbersäule</translation>
     </message>
     <message>
+        <source>inches of mercury</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Zoll Quecksilbersäule</translation>
+    </message>
+    <message>
         <source>millimetres</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>Millimeter</translation>
     </message>
     <message>
+        <source>millimetres</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Millimeter</translation>
+    </message>
+    <message>
         <source>inches</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>Zoll</translation>
     </message>
     <message>
@@ -276,6 +348,12 @@
     <message>
         <source>Wind:%d degrees %@</source>
         <extracomment>Spoken by screen readers. %d is the direction in degrees, %@ the speed with its unit. Keep this order.</extracomment>
+        <translation>Wind: %d Grad, %@</translation>
+    </message>
+    <message>
+        <source>Wind:%d degrees %@</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>Wind: %d Grad, %@</translation>
     </message>
     <message>
@@ -429,6 +507,12 @@
         <translation>in den letzten %1 Stunden</translation>
     </message>
     <message>
+        <source>in the last %1 hours</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>in der letzten %1 Stunde</translation>
+    </message>
+    <message>
         <source>pressure %1 %2</source>
         <extracomment>Spoken by screen readers. %1 is the air pressure, %2 its unit.</extracomment>
         <translation>Luftdruck %1 %2</translation>
@@ -442,6 +526,11 @@
         <source>forecast for %1</source>
         <extracomment>Spoken by screen readers. %1 is a place.</extracomment>
         <translation>Vorhersage für %1</translation>
+    </message>
+    <message>
+        <source>no weather yet</source>
+        <extracomment>Spoken by screen readers, behind a place: nothing was fetched for it so far.</extracomment>
+        <translation>noch kein Wetter da</translation>
     </message>
     <message>
         <source>high %1</source>

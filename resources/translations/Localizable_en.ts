@@ -84,13 +84,31 @@
         <translation>degrees Celsius</translation>
     </message>
     <message>
+        <source>degrees Celsius</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>degree Celsius</translation>
+    </message>
+    <message>
         <source>degrees Fahrenheit</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>degrees Fahrenheit</translation>
     </message>
     <message>
+        <source>degrees Fahrenheit</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>degree Fahrenheit</translation>
+    </message>
+    <message>
         <source>Kelvin</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>Kelvin</translation>
+    </message>
+    <message>
+        <source>Kelvin</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>Kelvin</translation>
     </message>
     <message>
@@ -99,9 +117,21 @@
         <translation>Beaufort</translation>
     </message>
     <message>
+        <source>Beaufort</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Beaufort</translation>
+    </message>
+    <message>
         <source>knots</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>knots</translation>
+    </message>
+    <message>
+        <source>knots</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>knot</translation>
     </message>
     <message>
         <source>kilometres per hour</source>
@@ -109,9 +139,21 @@
         <translation>kilometres per hour</translation>
     </message>
     <message>
+        <source>kilometres per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>kilometre per hour</translation>
+    </message>
+    <message>
         <source>metres per second</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>metres per second</translation>
+    </message>
+    <message>
+        <source>metres per second</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>metre per second</translation>
     </message>
     <message>
         <source>miles per hour</source>
@@ -119,9 +161,21 @@
         <translation>miles per hour</translation>
     </message>
     <message>
+        <source>miles per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>mile per hour</translation>
+    </message>
+    <message>
         <source>hectopascals</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>hectopascals</translation>
+    </message>
+    <message>
+        <source>hectopascals</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>hectopascal</translation>
     </message>
     <message>
         <source>inches of mercury</source>
@@ -129,14 +183,32 @@
         <translation>inches of mercury</translation>
     </message>
     <message>
+        <source>inches of mercury</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>inch of mercury</translation>
+    </message>
+    <message>
         <source>millimetres</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>millimetres</translation>
     </message>
     <message>
+        <source>millimetres</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>millimetre</translation>
+    </message>
+    <message>
         <source>inches</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>inches</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>inch</translation>
     </message>
     <message>
         <source>metres</source>
@@ -277,6 +349,12 @@
         <source>Wind:%d degrees %@</source>
         <extracomment>Spoken by screen readers. %d is the direction in degrees, %@ the speed with its unit. Keep this order.</extracomment>
         <translation>Wind:%d degrees %@</translation>
+    </message>
+    <message>
+        <source>Wind:%d degrees %@</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Wind:%d degree %@</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -429,6 +507,12 @@
         <translation>in the last %1 hours</translation>
     </message>
     <message>
+        <source>in the last %1 hours</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>in the last %1 hour</translation>
+    </message>
+    <message>
         <source>pressure %1 %2</source>
         <extracomment>Spoken by screen readers. %1 is the air pressure, %2 its unit.</extracomment>
         <translation>pressure %1 %2</translation>
@@ -442,6 +526,11 @@
         <source>forecast for %1</source>
         <extracomment>Spoken by screen readers. %1 is a place.</extracomment>
         <translation>forecast for %1</translation>
+    </message>
+    <message>
+        <source>no weather yet</source>
+        <extracomment>Spoken by screen readers, behind a place: nothing was fetched for it so far.</extracomment>
+        <translation>no weather yet</translation>
     </message>
     <message>
         <source>high %1</source>

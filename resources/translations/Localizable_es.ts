@@ -84,9 +84,21 @@
         <translation>grados Celsius</translation>
     </message>
     <message>
+        <source>degrees Celsius</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>grado Celsius</translation>
+    </message>
+    <message>
         <source>degrees Fahrenheit</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>grados Fahrenheit</translation>
+    </message>
+    <message>
+        <source>degrees Fahrenheit</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>grado Fahrenheit</translation>
     </message>
     <message>
         <source>Kelvin</source>
@@ -94,8 +106,20 @@
         <translation>kelvins</translation>
     </message>
     <message>
+        <source>Kelvin</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>kelvin</translation>
+    </message>
+    <message>
         <source>Beaufort</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>Beaufort</translation>
+    </message>
+    <message>
+        <source>Beaufort</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>Beaufort</translation>
     </message>
     <message>
@@ -104,9 +128,21 @@
         <translation>nudos</translation>
     </message>
     <message>
+        <source>knots</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>nudo</translation>
+    </message>
+    <message>
         <source>kilometres per hour</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>kilómetros por hora</translation>
+    </message>
+    <message>
+        <source>kilometres per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>kilómetro por hora</translation>
     </message>
     <message>
         <source>metres per second</source>
@@ -114,9 +150,21 @@
         <translation>metros por segundo</translation>
     </message>
     <message>
+        <source>metres per second</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>metro por segundo</translation>
+    </message>
+    <message>
         <source>miles per hour</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>millas por hora</translation>
+    </message>
+    <message>
+        <source>miles per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>milla por hora</translation>
     </message>
     <message>
         <source>hectopascals</source>
@@ -124,9 +172,21 @@
         <translation>hectopascales</translation>
     </message>
     <message>
+        <source>hectopascals</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>hectopascal</translation>
+    </message>
+    <message>
         <source>inches of mercury</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>pulgadas de mercurio</translation>
+    </message>
+    <message>
+        <source>inches of mercury</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>pulgada de mercurio</translation>
     </message>
     <message>
         <source>millimetres</source>
@@ -134,9 +194,21 @@
         <translation>milímetros</translation>
     </message>
     <message>
+        <source>millimetres</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>milímetro</translation>
+    </message>
+    <message>
         <source>inches</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>pulgadas</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>pulgada</translation>
     </message>
     <message>
         <source>metres</source>
@@ -277,6 +349,12 @@
         <source>Wind:%d degrees %@</source>
         <extracomment>Spoken by screen readers. %d is the direction in degrees, %@ the speed with its unit. Keep this order.</extracomment>
         <translation>Viento: %d grados, %@</translation>
+    </message>
+    <message>
+        <source>Wind:%d degrees %@</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Viento: %d grado, %@</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -429,6 +507,12 @@
         <translation>en las últimas %1 horas</translation>
     </message>
     <message>
+        <source>in the last %1 hours</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>en la última %1 hora</translation>
+    </message>
+    <message>
         <source>pressure %1 %2</source>
         <extracomment>Spoken by screen readers. %1 is the air pressure, %2 its unit.</extracomment>
         <translation>presión %1 %2</translation>
@@ -442,6 +526,11 @@
         <source>forecast for %1</source>
         <extracomment>Spoken by screen readers. %1 is a place.</extracomment>
         <translation>previsión para %1</translation>
+    </message>
+    <message>
+        <source>no weather yet</source>
+        <extracomment>Spoken by screen readers, behind a place: nothing was fetched for it so far.</extracomment>
+        <translation>aún no hay datos del tiempo</translation>
     </message>
     <message>
         <source>high %1</source>

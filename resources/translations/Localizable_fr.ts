@@ -84,9 +84,21 @@
         <translation>degrés Celsius</translation>
     </message>
     <message>
+        <source>degrees Celsius</source>
+        <comment>one</comment>
+        <extracomment>The form for 0 and 1, also with decimals (1,5).</extracomment>
+        <translation>degré Celsius</translation>
+    </message>
+    <message>
         <source>degrees Fahrenheit</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>degrés Fahrenheit</translation>
+    </message>
+    <message>
+        <source>degrees Fahrenheit</source>
+        <comment>one</comment>
+        <extracomment>The form for 0 and 1, also with decimals (1,5).</extracomment>
+        <translation>degré Fahrenheit</translation>
     </message>
     <message>
         <source>Kelvin</source>
@@ -94,8 +106,20 @@
         <translation>kelvins</translation>
     </message>
     <message>
+        <source>Kelvin</source>
+        <comment>one</comment>
+        <extracomment>The form for 0 and 1, also with decimals (1,5).</extracomment>
+        <translation>kelvin</translation>
+    </message>
+    <message>
         <source>Beaufort</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>Beaufort</translation>
+    </message>
+    <message>
+        <source>Beaufort</source>
+        <comment>one</comment>
+        <extracomment>The form for 0 and 1, also with decimals (1,5).</extracomment>
         <translation>Beaufort</translation>
     </message>
     <message>
@@ -104,9 +128,21 @@
         <translation>nœuds</translation>
     </message>
     <message>
+        <source>knots</source>
+        <comment>one</comment>
+        <extracomment>The form for 0 and 1, also with decimals (1,5).</extracomment>
+        <translation>nœud</translation>
+    </message>
+    <message>
         <source>kilometres per hour</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>kilomètres par heure</translation>
+    </message>
+    <message>
+        <source>kilometres per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 0 and 1, also with decimals (1,5).</extracomment>
+        <translation>kilomètre par heure</translation>
     </message>
     <message>
         <source>metres per second</source>
@@ -114,9 +150,21 @@
         <translation>mètres par seconde</translation>
     </message>
     <message>
+        <source>metres per second</source>
+        <comment>one</comment>
+        <extracomment>The form for 0 and 1, also with decimals (1,5).</extracomment>
+        <translation>mètre par seconde</translation>
+    </message>
+    <message>
         <source>miles per hour</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>miles par heure</translation>
+    </message>
+    <message>
+        <source>miles per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 0 and 1, also with decimals (1,5).</extracomment>
+        <translation>mile par heure</translation>
     </message>
     <message>
         <source>hectopascals</source>
@@ -124,9 +172,21 @@
         <translation>hectopascals</translation>
     </message>
     <message>
+        <source>hectopascals</source>
+        <comment>one</comment>
+        <extracomment>The form for 0 and 1, also with decimals (1,5).</extracomment>
+        <translation>hectopascal</translation>
+    </message>
+    <message>
         <source>inches of mercury</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>pouces de mercure</translation>
+    </message>
+    <message>
+        <source>inches of mercury</source>
+        <comment>one</comment>
+        <extracomment>The form for 0 and 1, also with decimals (1,5).</extracomment>
+        <translation>pouce de mercure</translation>
     </message>
     <message>
         <source>millimetres</source>
@@ -134,9 +194,21 @@
         <translation>millimètres</translation>
     </message>
     <message>
+        <source>millimetres</source>
+        <comment>one</comment>
+        <extracomment>The form for 0 and 1, also with decimals (1,5).</extracomment>
+        <translation>millimètre</translation>
+    </message>
+    <message>
         <source>inches</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>pouces</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <comment>one</comment>
+        <extracomment>The form for 0 and 1, also with decimals (1,5).</extracomment>
+        <translation>pouce</translation>
     </message>
     <message>
         <source>metres</source>
@@ -277,6 +349,12 @@
         <source>Wind:%d degrees %@</source>
         <extracomment>Spoken by screen readers. %d is the direction in degrees, %@ the speed with its unit. Keep this order.</extracomment>
         <translation>Vent&#xa0;: %d degrés, %@</translation>
+    </message>
+    <message>
+        <source>Wind:%d degrees %@</source>
+        <comment>one</comment>
+        <extracomment>The form for 0 and 1, also with decimals (1,5).</extracomment>
+        <translation>Vent&#xa0;: %d degré, %@</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -429,6 +507,12 @@
         <translation>au cours des %1 dernières heures</translation>
     </message>
     <message>
+        <source>in the last %1 hours</source>
+        <comment>one</comment>
+        <extracomment>The form for 0 and 1, also with decimals (1,5).</extracomment>
+        <translation>au cours de la dernière %1 heure</translation>
+    </message>
+    <message>
         <source>pressure %1 %2</source>
         <extracomment>Spoken by screen readers. %1 is the air pressure, %2 its unit.</extracomment>
         <translation>pression %1 %2</translation>
@@ -442,6 +526,11 @@
         <source>forecast for %1</source>
         <extracomment>Spoken by screen readers. %1 is a place.</extracomment>
         <translation>prévisions pour %1</translation>
+    </message>
+    <message>
+        <source>no weather yet</source>
+        <extracomment>Spoken by screen readers, behind a place: nothing was fetched for it so far.</extracomment>
+        <translation>pas encore de données météo</translation>
     </message>
     <message>
         <source>high %1</source>

@@ -84,13 +84,31 @@
         <translation>gradi Celsius</translation>
     </message>
     <message>
+        <source>degrees Celsius</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>grado Celsius</translation>
+    </message>
+    <message>
         <source>degrees Fahrenheit</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>gradi Fahrenheit</translation>
     </message>
     <message>
+        <source>degrees Fahrenheit</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>grado Fahrenheit</translation>
+    </message>
+    <message>
         <source>Kelvin</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>kelvin</translation>
+    </message>
+    <message>
+        <source>Kelvin</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>kelvin</translation>
     </message>
     <message>
@@ -99,9 +117,21 @@
         <translation>Beaufort</translation>
     </message>
     <message>
+        <source>Beaufort</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Beaufort</translation>
+    </message>
+    <message>
         <source>knots</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>nodi</translation>
+    </message>
+    <message>
+        <source>knots</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>nodo</translation>
     </message>
     <message>
         <source>kilometres per hour</source>
@@ -109,9 +139,21 @@
         <translation>chilometri all’ora</translation>
     </message>
     <message>
+        <source>kilometres per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>chilometro all’ora</translation>
+    </message>
+    <message>
         <source>metres per second</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>metri al secondo</translation>
+    </message>
+    <message>
+        <source>metres per second</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>metro al secondo</translation>
     </message>
     <message>
         <source>miles per hour</source>
@@ -119,8 +161,20 @@
         <translation>miglia all’ora</translation>
     </message>
     <message>
+        <source>miles per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>miglio all’ora</translation>
+    </message>
+    <message>
         <source>hectopascals</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>ettopascal</translation>
+    </message>
+    <message>
+        <source>hectopascals</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>ettopascal</translation>
     </message>
     <message>
@@ -129,14 +183,32 @@
         <translation>pollici di mercurio</translation>
     </message>
     <message>
+        <source>inches of mercury</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>pollice di mercurio</translation>
+    </message>
+    <message>
         <source>millimetres</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>millimetri</translation>
     </message>
     <message>
+        <source>millimetres</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>millimetro</translation>
+    </message>
+    <message>
         <source>inches</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>pollici</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>pollice</translation>
     </message>
     <message>
         <source>metres</source>
@@ -277,6 +349,12 @@
         <source>Wind:%d degrees %@</source>
         <extracomment>Spoken by screen readers. %d is the direction in degrees, %@ the speed with its unit. Keep this order.</extracomment>
         <translation>Vento: %d gradi, %@</translation>
+    </message>
+    <message>
+        <source>Wind:%d degrees %@</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Vento: %d grado, %@</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -429,6 +507,12 @@
         <translation>nelle ultime %1 ore</translation>
     </message>
     <message>
+        <source>in the last %1 hours</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>nell'ultima %1 ora</translation>
+    </message>
+    <message>
         <source>pressure %1 %2</source>
         <extracomment>Spoken by screen readers. %1 is the air pressure, %2 its unit.</extracomment>
         <translation>pressione %1 %2</translation>
@@ -442,6 +526,11 @@
         <source>forecast for %1</source>
         <extracomment>Spoken by screen readers. %1 is a place.</extracomment>
         <translation>previsioni per %1</translation>
+    </message>
+    <message>
+        <source>no weather yet</source>
+        <extracomment>Spoken by screen readers, behind a place: nothing was fetched for it so far.</extracomment>
+        <translation>ancora nessun dato meteo</translation>
     </message>
     <message>
         <source>high %1</source>

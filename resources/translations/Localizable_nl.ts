@@ -84,13 +84,31 @@
         <translation>graden Celsius</translation>
     </message>
     <message>
+        <source>degrees Celsius</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>graad Celsius</translation>
+    </message>
+    <message>
         <source>degrees Fahrenheit</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>graden Fahrenheit</translation>
     </message>
     <message>
+        <source>degrees Fahrenheit</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>graad Fahrenheit</translation>
+    </message>
+    <message>
         <source>Kelvin</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>kelvin</translation>
+    </message>
+    <message>
+        <source>Kelvin</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>kelvin</translation>
     </message>
     <message>
@@ -99,13 +117,31 @@
         <translation>Beaufort</translation>
     </message>
     <message>
+        <source>Beaufort</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Beaufort</translation>
+    </message>
+    <message>
         <source>knots</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>knopen</translation>
     </message>
     <message>
+        <source>knots</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>knoop</translation>
+    </message>
+    <message>
         <source>kilometres per hour</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>kilometer per uur</translation>
+    </message>
+    <message>
+        <source>kilometres per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>kilometer per uur</translation>
     </message>
     <message>
@@ -114,8 +150,20 @@
         <translation>meter per seconde</translation>
     </message>
     <message>
+        <source>metres per second</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>meter per seconde</translation>
+    </message>
+    <message>
         <source>miles per hour</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>mijl per uur</translation>
+    </message>
+    <message>
+        <source>miles per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>mijl per uur</translation>
     </message>
     <message>
@@ -124,8 +172,20 @@
         <translation>hectopascal</translation>
     </message>
     <message>
+        <source>hectopascals</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>hectopascal</translation>
+    </message>
+    <message>
         <source>inches of mercury</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>inch kwik</translation>
+    </message>
+    <message>
+        <source>inches of mercury</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>inch kwik</translation>
     </message>
     <message>
@@ -134,8 +194,20 @@
         <translation>millimeter</translation>
     </message>
     <message>
+        <source>millimetres</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>millimeter</translation>
+    </message>
+    <message>
         <source>inches</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
+        <translation>inch</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
         <translation>inch</translation>
     </message>
     <message>
@@ -277,6 +349,12 @@
         <source>Wind:%d degrees %@</source>
         <extracomment>Spoken by screen readers. %d is the direction in degrees, %@ the speed with its unit. Keep this order.</extracomment>
         <translation>Wind: %d graden, %@</translation>
+    </message>
+    <message>
+        <source>Wind:%d degrees %@</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Wind: %d graad, %@</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -429,6 +507,12 @@
         <translation>in de afgelopen %1 uur</translation>
     </message>
     <message>
+        <source>in the last %1 hours</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>in het afgelopen %1 uur</translation>
+    </message>
+    <message>
         <source>pressure %1 %2</source>
         <extracomment>Spoken by screen readers. %1 is the air pressure, %2 its unit.</extracomment>
         <translation>luchtdruk %1 %2</translation>
@@ -442,6 +526,11 @@
         <source>forecast for %1</source>
         <extracomment>Spoken by screen readers. %1 is a place.</extracomment>
         <translation>verwachting voor %1</translation>
+    </message>
+    <message>
+        <source>no weather yet</source>
+        <extracomment>Spoken by screen readers, behind a place: nothing was fetched for it so far.</extracomment>
+        <translation>nog geen weer bekend</translation>
     </message>
     <message>
         <source>high %1</source>

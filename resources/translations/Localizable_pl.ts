@@ -84,9 +84,45 @@
         <translation>stopni Celsjusza</translation>
     </message>
     <message>
+        <source>degrees Celsius</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>stopień Celsjusza</translation>
+    </message>
+    <message>
+        <source>degrees Celsius</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>stopnie Celsjusza</translation>
+    </message>
+    <message>
+        <source>degrees Celsius</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>stopnia Celsjusza</translation>
+    </message>
+    <message>
         <source>degrees Fahrenheit</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>stopni Fahrenheita</translation>
+    </message>
+    <message>
+        <source>degrees Fahrenheit</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>stopień Fahrenheita</translation>
+    </message>
+    <message>
+        <source>degrees Fahrenheit</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>stopnie Fahrenheita</translation>
+    </message>
+    <message>
+        <source>degrees Fahrenheit</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>stopnia Fahrenheita</translation>
     </message>
     <message>
         <source>Kelvin</source>
@@ -94,9 +130,45 @@
         <translation>kelwinów</translation>
     </message>
     <message>
+        <source>Kelvin</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>kelwin</translation>
+    </message>
+    <message>
+        <source>Kelvin</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>kelwiny</translation>
+    </message>
+    <message>
+        <source>Kelvin</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>kelwina</translation>
+    </message>
+    <message>
         <source>Beaufort</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>stopni Beauforta</translation>
+    </message>
+    <message>
+        <source>Beaufort</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>stopień Beauforta</translation>
+    </message>
+    <message>
+        <source>Beaufort</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>stopnie Beauforta</translation>
+    </message>
+    <message>
+        <source>Beaufort</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>stopnia Beauforta</translation>
     </message>
     <message>
         <source>knots</source>
@@ -104,9 +176,45 @@
         <translation>węzłów</translation>
     </message>
     <message>
+        <source>knots</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>węzeł</translation>
+    </message>
+    <message>
+        <source>knots</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>węzły</translation>
+    </message>
+    <message>
+        <source>knots</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>węzła</translation>
+    </message>
+    <message>
         <source>kilometres per hour</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>kilometrów na godzinę</translation>
+    </message>
+    <message>
+        <source>kilometres per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>kilometr na godzinę</translation>
+    </message>
+    <message>
+        <source>kilometres per hour</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>kilometry na godzinę</translation>
+    </message>
+    <message>
+        <source>kilometres per hour</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>kilometra na godzinę</translation>
     </message>
     <message>
         <source>metres per second</source>
@@ -114,9 +222,45 @@
         <translation>metrów na sekundę</translation>
     </message>
     <message>
+        <source>metres per second</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>metr na sekundę</translation>
+    </message>
+    <message>
+        <source>metres per second</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>metry na sekundę</translation>
+    </message>
+    <message>
+        <source>metres per second</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>metra na sekundę</translation>
+    </message>
+    <message>
         <source>miles per hour</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>mil na godzinę</translation>
+    </message>
+    <message>
+        <source>miles per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>mila na godzinę</translation>
+    </message>
+    <message>
+        <source>miles per hour</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>mile na godzinę</translation>
+    </message>
+    <message>
+        <source>miles per hour</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>mili na godzinę</translation>
     </message>
     <message>
         <source>hectopascals</source>
@@ -124,9 +268,45 @@
         <translation>hektopaskali</translation>
     </message>
     <message>
+        <source>hectopascals</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>hektopaskal</translation>
+    </message>
+    <message>
+        <source>hectopascals</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>hektopaskale</translation>
+    </message>
+    <message>
+        <source>hectopascals</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>hektopaskala</translation>
+    </message>
+    <message>
         <source>inches of mercury</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>cali słupa rtęci</translation>
+    </message>
+    <message>
+        <source>inches of mercury</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>cal słupa rtęci</translation>
+    </message>
+    <message>
+        <source>inches of mercury</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>cale słupa rtęci</translation>
+    </message>
+    <message>
+        <source>inches of mercury</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>cala słupa rtęci</translation>
     </message>
     <message>
         <source>millimetres</source>
@@ -134,9 +314,45 @@
         <translation>milimetrów</translation>
     </message>
     <message>
+        <source>millimetres</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>milimetr</translation>
+    </message>
+    <message>
+        <source>millimetres</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>milimetry</translation>
+    </message>
+    <message>
+        <source>millimetres</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>milimetra</translation>
+    </message>
+    <message>
         <source>inches</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>cali</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>cal</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>cale</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>cala</translation>
     </message>
     <message>
         <source>metres</source>
@@ -277,6 +493,24 @@
         <source>Wind:%d degrees %@</source>
         <extracomment>Spoken by screen readers. %d is the direction in degrees, %@ the speed with its unit. Keep this order.</extracomment>
         <translation>Wiatr: %d stopni, %@</translation>
+    </message>
+    <message>
+        <source>Wind:%d degrees %@</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>Wiatr: %d stopień, %@</translation>
+    </message>
+    <message>
+        <source>Wind:%d degrees %@</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>Wiatr: %d stopnie, %@</translation>
+    </message>
+    <message>
+        <source>Wind:%d degrees %@</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>Wiatr: %d stopnia, %@</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -429,6 +663,24 @@
         <translation>w ciągu ostatnich %1 godzin</translation>
     </message>
     <message>
+        <source>in the last %1 hours</source>
+        <comment>one</comment>
+        <extracomment>The form for 1.</extracomment>
+        <translation>w ciągu ostatniej %1 godziny</translation>
+    </message>
+    <message>
+        <source>in the last %1 hours</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>w ciągu ostatnich %1 godzin</translation>
+    </message>
+    <message>
+        <source>in the last %1 hours</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>w ciągu ostatnich %1 godziny</translation>
+    </message>
+    <message>
         <source>pressure %1 %2</source>
         <extracomment>Spoken by screen readers. %1 is the air pressure, %2 its unit.</extracomment>
         <translation>ciśnienie %1 %2</translation>
@@ -442,6 +694,11 @@
         <source>forecast for %1</source>
         <extracomment>Spoken by screen readers. %1 is a place.</extracomment>
         <translation>prognoza: %1</translation>
+    </message>
+    <message>
+        <source>no weather yet</source>
+        <extracomment>Spoken by screen readers, behind a place: nothing was fetched for it so far.</extracomment>
+        <translation>jeszcze brak danych o pogodzie</translation>
     </message>
     <message>
         <source>high %1</source>

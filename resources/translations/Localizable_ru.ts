@@ -59,6 +59,30 @@
         <translation>мм рт. ст.</translation>
     </message>
     <message>
+        <source>Torr</source>
+        <comment>one</comment>
+        <extracomment>Spoken only. The form for 1, 21, 31.</extracomment>
+        <translation>миллиметр ртутного столба</translation>
+    </message>
+    <message>
+        <source>Torr</source>
+        <comment>few</comment>
+        <extracomment>Spoken only. The form for 2, 3, 4, 22.</extracomment>
+        <translation>миллиметра ртутного столба</translation>
+    </message>
+    <message>
+        <source>Torr</source>
+        <comment>many</comment>
+        <extracomment>Spoken only. The form for 5, 11, 100.</extracomment>
+        <translation>миллиметров ртутного столба</translation>
+    </message>
+    <message>
+        <source>Torr</source>
+        <comment>other</comment>
+        <extracomment>Spoken only. The form for decimals (1,5).</extracomment>
+        <translation>миллиметра ртутного столба</translation>
+    </message>
+    <message>
         <source>mm</source>
         <extracomment>Unit text, short. It is also written directly behind a number: a blank in front of it would be kept.</extracomment>
         <translation>мм</translation>
@@ -84,9 +108,45 @@
         <translation>градусов Цельсия</translation>
     </message>
     <message>
+        <source>degrees Celsius</source>
+        <comment>one</comment>
+        <extracomment>The form for 1, 21, 31.</extracomment>
+        <translation>градус Цельсия</translation>
+    </message>
+    <message>
+        <source>degrees Celsius</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>градуса Цельсия</translation>
+    </message>
+    <message>
+        <source>degrees Celsius</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>градуса Цельсия</translation>
+    </message>
+    <message>
         <source>degrees Fahrenheit</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>градусов Фаренгейта</translation>
+    </message>
+    <message>
+        <source>degrees Fahrenheit</source>
+        <comment>one</comment>
+        <extracomment>The form for 1, 21, 31.</extracomment>
+        <translation>градус Фаренгейта</translation>
+    </message>
+    <message>
+        <source>degrees Fahrenheit</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>градуса Фаренгейта</translation>
+    </message>
+    <message>
+        <source>degrees Fahrenheit</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>градуса Фаренгейта</translation>
     </message>
     <message>
         <source>Kelvin</source>
@@ -94,9 +154,45 @@
         <translation>кельвинов</translation>
     </message>
     <message>
+        <source>Kelvin</source>
+        <comment>one</comment>
+        <extracomment>The form for 1, 21, 31.</extracomment>
+        <translation>кельвин</translation>
+    </message>
+    <message>
+        <source>Kelvin</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>кельвина</translation>
+    </message>
+    <message>
+        <source>Kelvin</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>кельвина</translation>
+    </message>
+    <message>
         <source>Beaufort</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>баллов по шкале Бофорта</translation>
+    </message>
+    <message>
+        <source>Beaufort</source>
+        <comment>one</comment>
+        <extracomment>The form for 1, 21, 31.</extracomment>
+        <translation>балл по шкале Бофорта</translation>
+    </message>
+    <message>
+        <source>Beaufort</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>балла по шкале Бофорта</translation>
+    </message>
+    <message>
+        <source>Beaufort</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>балла по шкале Бофорта</translation>
     </message>
     <message>
         <source>knots</source>
@@ -104,9 +200,45 @@
         <translation>узлов</translation>
     </message>
     <message>
+        <source>knots</source>
+        <comment>one</comment>
+        <extracomment>The form for 1, 21, 31.</extracomment>
+        <translation>узел</translation>
+    </message>
+    <message>
+        <source>knots</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>узла</translation>
+    </message>
+    <message>
+        <source>knots</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>узла</translation>
+    </message>
+    <message>
         <source>kilometres per hour</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>километров в час</translation>
+    </message>
+    <message>
+        <source>kilometres per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 1, 21, 31.</extracomment>
+        <translation>километр в час</translation>
+    </message>
+    <message>
+        <source>kilometres per hour</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>километра в час</translation>
+    </message>
+    <message>
+        <source>kilometres per hour</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>километра в час</translation>
     </message>
     <message>
         <source>metres per second</source>
@@ -114,9 +246,45 @@
         <translation>метров в секунду</translation>
     </message>
     <message>
+        <source>metres per second</source>
+        <comment>one</comment>
+        <extracomment>The form for 1, 21, 31.</extracomment>
+        <translation>метр в секунду</translation>
+    </message>
+    <message>
+        <source>metres per second</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>метра в секунду</translation>
+    </message>
+    <message>
+        <source>metres per second</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>метра в секунду</translation>
+    </message>
+    <message>
         <source>miles per hour</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>миль в час</translation>
+    </message>
+    <message>
+        <source>miles per hour</source>
+        <comment>one</comment>
+        <extracomment>The form for 1, 21, 31.</extracomment>
+        <translation>миля в час</translation>
+    </message>
+    <message>
+        <source>miles per hour</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>мили в час</translation>
+    </message>
+    <message>
+        <source>miles per hour</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>мили в час</translation>
     </message>
     <message>
         <source>hectopascals</source>
@@ -124,9 +292,45 @@
         <translation>гектопаскалей</translation>
     </message>
     <message>
+        <source>hectopascals</source>
+        <comment>one</comment>
+        <extracomment>The form for 1, 21, 31.</extracomment>
+        <translation>гектопаскаль</translation>
+    </message>
+    <message>
+        <source>hectopascals</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>гектопаскаля</translation>
+    </message>
+    <message>
+        <source>hectopascals</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>гектопаскаля</translation>
+    </message>
+    <message>
         <source>inches of mercury</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>дюймов ртутного столба</translation>
+    </message>
+    <message>
+        <source>inches of mercury</source>
+        <comment>one</comment>
+        <extracomment>The form for 1, 21, 31.</extracomment>
+        <translation>дюйм ртутного столба</translation>
+    </message>
+    <message>
+        <source>inches of mercury</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>дюйма ртутного столба</translation>
+    </message>
+    <message>
+        <source>inches of mercury</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>дюйма ртутного столба</translation>
     </message>
     <message>
         <source>millimetres</source>
@@ -134,9 +338,45 @@
         <translation>миллиметров</translation>
     </message>
     <message>
+        <source>millimetres</source>
+        <comment>one</comment>
+        <extracomment>The form for 1, 21, 31.</extracomment>
+        <translation>миллиметр</translation>
+    </message>
+    <message>
+        <source>millimetres</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>миллиметра</translation>
+    </message>
+    <message>
+        <source>millimetres</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>миллиметра</translation>
+    </message>
+    <message>
         <source>inches</source>
         <extracomment>Spoken behind a number by screen readers; in the form for most numbers (14, 20, 100).</extracomment>
         <translation>дюймов</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <comment>one</comment>
+        <extracomment>The form for 1, 21, 31.</extracomment>
+        <translation>дюйм</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>дюйма</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>дюйма</translation>
     </message>
     <message>
         <source>metres</source>
@@ -277,6 +517,24 @@
         <source>Wind:%d degrees %@</source>
         <extracomment>Spoken by screen readers. %d is the direction in degrees, %@ the speed with its unit. Keep this order.</extracomment>
         <translation>Ветер: %d градусов, %@</translation>
+    </message>
+    <message>
+        <source>Wind:%d degrees %@</source>
+        <comment>one</comment>
+        <extracomment>The form for 1, 21, 31.</extracomment>
+        <translation>Ветер: %d градус, %@</translation>
+    </message>
+    <message>
+        <source>Wind:%d degrees %@</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>Ветер: %d градуса, %@</translation>
+    </message>
+    <message>
+        <source>Wind:%d degrees %@</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>Ветер: %d градуса, %@</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -426,7 +684,25 @@
     <message>
         <source>in the last %1 hours</source>
         <extracomment>Spoken by screen readers. Behind the amount of precipitation; %1 is more than one.</extracomment>
-        <translation>за последние %1 ч</translation>
+        <translation>за последние %1 часов</translation>
+    </message>
+    <message>
+        <source>in the last %1 hours</source>
+        <comment>one</comment>
+        <extracomment>The form for 1, 21, 31.</extracomment>
+        <translation>за последний %1 час</translation>
+    </message>
+    <message>
+        <source>in the last %1 hours</source>
+        <comment>few</comment>
+        <extracomment>The form for 2, 3, 4, 22.</extracomment>
+        <translation>за последние %1 часа</translation>
+    </message>
+    <message>
+        <source>in the last %1 hours</source>
+        <comment>other</comment>
+        <extracomment>The form for decimals (1,5).</extracomment>
+        <translation>за последние %1 часа</translation>
     </message>
     <message>
         <source>pressure %1 %2</source>
@@ -442,6 +718,11 @@
         <source>forecast for %1</source>
         <extracomment>Spoken by screen readers. %1 is a place.</extracomment>
         <translation>прогноз: %1</translation>
+    </message>
+    <message>
+        <source>no weather yet</source>
+        <extracomment>Spoken by screen readers, behind a place: nothing was fetched for it so far.</extracomment>
+        <translation>данных о погоде пока нет</translation>
     </message>
     <message>
         <source>high %1</source>

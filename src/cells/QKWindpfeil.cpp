@@ -248,8 +248,9 @@ void QKWindpfeil::refreshArrow() {
     setShown(labelView_, false);
     if (!ScreenReader::isRunning() || !windPfeil_)
         return;
-    QString spoken = localized(u"Wind:%d degrees %@");
-    spoken.replace(QStringLiteral("%d"), QString::number(integerOf(direction_)));
+    const QString degrees = QString::number(integerOf(direction_));
+    QString spoken = localized(u"Wind:%d degrees %@", degrees);
+    spoken.replace(QStringLiteral("%d"), degrees);
     spoken.replace(QStringLiteral("%@"),
                    MeteoMapping::formattedWindString(numSpeed_, ownWindUnit()));
     windPfeil_->setAccessibleName(spoken);

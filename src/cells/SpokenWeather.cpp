@@ -2,10 +2,12 @@
 
 #include <array>
 #include <cmath>
+#include <span>
 
 #include <QStringList>
 
 #include "foundation/Localized.h"
+#include "meteo/UnitTable.h"
 
 namespace zephyrix {
 
@@ -18,18 +20,11 @@ constexpr std::array sectorNames = {
     u"west",  u"west-north-west",  u"north-west", u"north-north-west",
 };
 
-// By unit code; the last one is for every other code.
-constexpr std::array windUnits = {u"Beaufort",          u"knots",          u"kilometres per hour",
-                                  u"metres per second", u"miles per hour", u"knots"};
-constexpr std::array precipitationUnits = {u"millimetres", u"inches", u"millimetres"};
-constexpr std::array pressureUnits = {u"hectopascals", u"inches of mercury", u"Torr",
-                                      u"hectopascals"};
-
-template <std::size_t size>
-QString unitName(const std::array<const char16_t*, size>& names, UnitCode code) {
-    const auto index =
-        code < 0 || code >= static_cast<UnitCode>(size) ? size - 1 : static_cast<std::size_t>(code);
-    return localized(names.at(index));
+/// "kilometres per hour", in the form for the number; a code outside of the table means `standard`.
+QString spokenUnit(std::span<const Unit> units, UnitCode code, UnitCode standard,
+                   const QString& number) {
+    const Unit* known = unitWithCode(units, code);
+    return localized((known == nullptr ? unitWithCode(units, standard) : known)->spoken, number);
 }
 
 bool isMissing(const std::optional<Number>& number) {
@@ -42,8 +37,9 @@ QString spokenTemperature(const std::optional<Number>& celsius, UnitCode unit) {
         return {};
     const double degrees =
         std::round(MeteoMapping::mapTemperature(celsius->doubleValue(), 0, unit));
-    return QStringLiteral("%1 %2").arg(QString::number(Number(degrees).integerValue()),
-                                       MeteoMapping::accessibleTempUnitForUnit(unit));
+    const QString number = QString::number(Number(degrees).integerValue());
+    return QStringLiteral("%1 %2").arg(
+        number, spokenUnit(temperatureUnits, unit, unitcode::celsius, number));
 }
 
 QString directionName(const std::optional<Number>& direction) {
@@ -64,32 +60,35 @@ QString spokenWind(const Obs& record, UnitCode unit) {
     if (record.ff->integerValue() == 0)
         return localized(u"no wind");
     const double speed = std::round(MeteoMapping::mapKnotsToUnit(unit, record.ff->doubleValue()));
+    const QString number = QString::number(Number(speed).integerValue());
     return localized(u"wind %1 %2 %3")
-        .arg(directionName(record.dd), QString::number(Number(speed).integerValue()),
-             unitName(windUnits, unit))
+        .arg(directionName(record.dd), number, spokenUnit(windUnits, unit, unitcode::knots, number))
         .simplified();
+}
+
+QString spokenPeriod(std::int64_t hours) {
+    const QString number = QString::number(hours);
+    return hours == 1 ? localized(u"in the last hour")
+                      : localized(u"in the last %1 hours", number).arg(number);
 }
 
 QString spokenPrecipitation(const Obs& record, UnitCode unit) {
     if (!record.rrr || record.rrr->integerValue() < 0)
         return {};
-    QString amount = localized(u"precipitation %1 %2")
-                         .arg(MeteoMapping::formattedPrecipitationString(record.rrr, unit, true),
-                              unitName(precipitationUnits, unit));
+    const QString number = MeteoMapping::formattedPrecipitationString(record.rrr, unit, true);
+    QString amount =
+        localized(u"precipitation %1 %2")
+            .arg(number, spokenUnit(precipitationUnits, unit, unitcode::millimetres, number));
     const std::int64_t hours = isMissing(record.rrrh) ? 0 : record.rrrh->integerValue();
-    if (hours <= 0)
-        return amount;
-    const QString period =
-        hours == 1 ? localized(u"in the last hour") : localized(u"in the last %1 hours").arg(hours);
-    return amount + QLatin1Char(' ') + period;
+    return hours <= 0 ? amount : amount + QLatin1Char(' ') + spokenPeriod(hours);
 }
 
 QString spokenPressure(const Obs& record, UnitCode unit) {
     if (!record.ppp || record.ppp->integerValue() < 0)
         return {};
+    const QString number = MeteoMapping::formattedPressureString(record.ppp, unit, true);
     return localized(u"pressure %1 %2")
-        .arg(MeteoMapping::formattedPressureString(record.ppp, unit, true),
-             unitName(pressureUnits, unit));
+        .arg(number, spokenUnit(pressureUnits, unit, unitcode::hectopascal, number));
 }
 
 QString sentence(QStringList parts) {

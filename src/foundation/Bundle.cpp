@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "PluralForm.h"
+
 namespace zephyrix {
 
 namespace {
@@ -20,6 +22,9 @@ QString programFolder() {
 }
 
 constexpr std::array languages{"en", "de", "pl", "nl", "fr", "es", "sv", "it", "ru"};
+
+/// The comment of a text's entry in the table: none, or the form's name in the order of PluralForm.
+constexpr std::array<const char*, 5> formComments{nullptr, "one", "few", "many", "other"};
 
 /// "de" for "de_AT.UTF-8" and "DE"; empty for a language without a string table. "C" and "POSIX"
 /// are English.
@@ -97,29 +102,42 @@ QStringList Bundle::preferredLocalizations() const {
 // NOLINTEND(readability-convert-member-functions-to-static)
 
 QString Bundle::localizedString(const QString& key) const {
-    const auto known = textsByKey_.constFind(key);
-    if (known != textsByKey_.cend())
+    return text(key, 0);
+}
+
+QString Bundle::localizedString(const QString& key, QStringView shownNumber) const {
+    const PluralForm form = pluralForm(shownNumber, stringTable().language);
+    return text(key, 1 + static_cast<std::size_t>(form));
+}
+
+QString Bundle::text(const QString& key, std::size_t form) const {
+    QHash<QString, QString>& texts = textsByKey_.at(form);
+    const auto known = texts.constFind(key);
+    if (known != texts.cend())
         return *known;
     // The key may be a view of memory that is not ours.
     const QString kept(key.constData(), key.size());
-    const QString text = stringTable().translate("Localizable", key.toUtf8().constData());
-    return *textsByKey_.insert(kept, text.isEmpty() ? kept : text);
+    // The table itself falls back to the entry without a comment.
+    const QString text = stringTable().texts.translate("Localizable", key.toUtf8().constData(),
+                                                       formComments.at(form));
+    return *texts.insert(kept, text.isEmpty() ? kept : text);
 }
 
-const QTranslator& Bundle::stringTable() const {
+const Bundle::StringTable& Bundle::stringTable() const {
     if (!stringTable_) {
-        stringTable_ = std::make_unique<QTranslator>();
+        stringTable_ = std::make_unique<StringTable>();
+        stringTable_->language = preferredLocalizations().first();
         // English needs no table: a table that is not there leaves the keys as they are.
         static_cast<void>(
-            stringTable_->load(QStringLiteral(":/zephyrix/translations/Localizable_%1.qm")
-                                   .arg(preferredLocalizations().first())));
+            stringTable_->texts.load(QStringLiteral(":/zephyrix/translations/Localizable_%1.qm")
+                                         .arg(stringTable_->language)));
     }
     return *stringTable_;
 }
 
 void Bundle::forgetStringTable() {
     stringTable_.reset();
-    textsByKey_.clear();
+    textsByKey_ = {};
 }
 
 }  // namespace zephyrix

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <memory>
 #include <optional>
 
@@ -35,6 +36,9 @@ class Bundle {
     /// The text for a key, which is the English text, in the user's language; the key itself where
     /// there is no translation. The table is loaded at the first use.
     [[nodiscard]] QString localizedString(const QString& key) const;
+    /// The same in the form that goes with a number as it is shown; see pluralForm(). A form
+    /// without a text of its own has that of the key alone.
+    [[nodiscard]] QString localizedString(const QString& key, QStringView shownNumber) const;
     /// After a change of the language: the next text comes from a table that is loaded anew.
     void forgetStringTable();
 
@@ -44,11 +48,18 @@ class Bundle {
     [[nodiscard]] QStringList preferredLocalizations() const;
 
   private:
-    [[nodiscard]] const QTranslator& stringTable() const;
+    struct StringTable {
+        QString language;
+        QTranslator texts;
+    };
+
+    [[nodiscard]] const StringTable& stringTable() const;
+    [[nodiscard]] QString text(const QString& key, std::size_t form) const;
 
     QString dataDirectory_;
-    mutable std::unique_ptr<QTranslator> stringTable_;
-    mutable QHash<QString, QString> textsByKey_;  // what was looked up in it
+    mutable std::unique_ptr<StringTable> stringTable_;
+    // What was looked up in it, by key: first the texts that have no forms, then form by form.
+    mutable std::array<QHash<QString, QString>, 5> textsByKey_;
 };
 
 }  // namespace zephyrix

@@ -12,4 +12,11 @@ namespace zephyrix {
     return Bundle::main().localizedString(QString::fromRawData(key.data(), key.size()));
 }
 
+/// The same for a text that goes with a number: its form for the number as it is shown.
+/// localized(u"knots", u"1") is "knot".
+[[nodiscard]] inline QString localized(QStringView key, QStringView shownNumber) {
+    return Bundle::main().localizedString(QString::fromRawData(key.data(), key.size()),
+                                          shownNumber);
+}
+
 }  // namespace zephyrix

@@ -187,6 +187,23 @@ TEST_F(ObsCellTest, SaysOneSentence) {
                              "pressure 1013.2 hectopascals, observed at 12:00\u202fPM"));
 }
 
+TEST_F(ObsCellTest, SaysUnitsInTheFormOfTheirNumber) {
+    Weather weather = showerInBerlin();
+    weather.observation[QStringLiteral("tt")] = -1;
+    weather.observation[QStringLiteral("rrr")] = 1.0;
+    weather.observation[QStringLiteral("rrrh")] = 3;
+    ObsCell* cell = cellOf(weather);
+    stage->defaults().set(QStringLiteral("wind"), 1);
+    Obs record(weather.observation);
+    record.ff = Number(1);
+    cell->setData(record);
+    layOut(cell);
+    EXPECT_EQ(cell->accessibleName(),
+              QStringLiteral("Berlin, -1 degree Celsius, Light rain shower, wind south-west 1 "
+                             "knot, precipitation 1.0 millimetres in the last 3 hours, "
+                             "pressure 1013.2 hectopascals, observed at 12:00\u202fPM"));
+}
+
 TEST_F(ObsCellTest, SaysFromTwoHoursOnHowOldItIs) {
     const ObsCell* cell = cellOf(showerInBerlin());
     const auto* age = cell->findChild<Label*>(QStringLiteral("ageLabel"));

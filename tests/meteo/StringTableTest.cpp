@@ -10,6 +10,8 @@
 #include <gtest/gtest.h>
 
 #include "foundation/Bundle.h"
+#include "foundation/Localized.h"
+#include "foundation/PluralForm.h"
 #include "meteo/MeteoMapping.h"
 #include "support/ScopedEnvironment.h"
 
@@ -22,11 +24,22 @@ const QStringList languages{QStringLiteral("de"), QStringLiteral("en"), QStringL
                             QStringLiteral("fr"), QStringLiteral("it"), QStringLiteral("nl"),
                             QStringLiteral("pl"), QStringLiteral("ru"), QStringLiteral("sv")};
 
+const QStringList pluralForms{QStringLiteral("one"), QStringLiteral("few"), QStringLiteral("many"),
+                              QStringLiteral("other")};
+
 struct StringTable {
     QString language;
     QStringList keys;  // in the file's order
     std::map<QString, QString> texts;
+    std::map<QString, std::map<QString, QString>> forms;  // by key and plural form
     QStringList faults;
+
+    [[nodiscard]] QStringList keysWithForms() const {
+        QStringList found;
+        for (const auto& [key, ofKey] : forms)
+            found << key;
+        return found;
+    }
 };
 
 /// Reads a .ts file as a person sees it, without Qt's own compiler of translations.
@@ -37,6 +50,7 @@ StringTable readTable(const QString& path) {
         table.faults << file.errorString();
     QXmlStreamReader xml(&file);
     QString key;
+    QString form;
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
@@ -45,14 +59,23 @@ StringTable readTable(const QString& path) {
         else if (xml.name() == QLatin1String("name") &&
                  xml.readElementText() != QLatin1String("Localizable"))
             table.faults << QStringLiteral("another context");
-        else if (xml.name() == QLatin1String("comment"))
-            table.faults << QStringLiteral("a comment that is part of the key ") + key;
+        else if (xml.name() == QLatin1String("message"))
+            form.clear();
         else if (xml.name() == QLatin1String("source"))
-            table.keys << (key = xml.readElementText());
+            key = xml.readElementText();
+        else if (xml.name() == QLatin1String("comment"))
+            form = xml.readElementText();
         else if (xml.name() == QLatin1String("translation")) {
             if (xml.attributes().hasAttribute(QLatin1String("type")))
                 table.faults << QStringLiteral("unfinished: ") + key;
-            table.texts[key] = xml.readElementText();
+            if (form.isEmpty()) {
+                table.keys << key;
+                table.texts[key] = xml.readElementText();
+            } else if (pluralForms.contains(form)) {
+                table.forms[key][form] = xml.readElementText();
+            } else {
+                table.faults << QStringLiteral("a comment that is no form: ") + key;
+            }
         }
     }
     if (xml.hasError())
@@ -96,16 +119,40 @@ TEST(StringTable, EveryTextIsFitForUse) {
     const QRegularExpression mixedScripts(
         QStringLiteral("\\p{Cyrillic}[A-Za-z]|[A-Za-z]\\p{Cyrillic}"));
     for (const QString& language : languages) {
-        for (const auto& [key, text] : tableOf(language).texts) {
+        const StringTable table = tableOf(language);
+        std::multimap<QString, QString> texts(table.texts.begin(), table.texts.end());
+        for (const auto& [key, forms] : table.forms)
+            for (const auto& [form, text] : forms)
+                texts.emplace(key, text);
+        for (const auto& [key, text] : texts) {
             EXPECT_FALSE(text.trimmed().isEmpty()) << qPrintable(language + u' ' + key);
             EXPECT_EQ(matches(placeholders, text), matches(placeholders, key)) << qPrintable(text);
             for (const char* place : {"%1", "%2", "%3"})
                 EXPECT_EQ(text.count(QLatin1String(place)), key.count(QLatin1String(place)))
                     << qPrintable(text);
             EXPECT_FALSE(text.contains(mixedScripts)) << qPrintable(text);
-            if (language == QLatin1String("en")) {
-                EXPECT_EQ(text, key);
-            }
+        }
+    }
+    for (const auto& [key, text] : tableOf(QStringLiteral("en")).texts)
+        EXPECT_EQ(text, key);
+}
+
+// The text without a form is that for 14, and for 100.
+TEST(StringTable, HasEachFormThatItsLanguageUses) {
+    const QStringList keys = tableOf(QStringLiteral("en")).keysWithForms();
+    ASSERT_GE(keys.size(), 14);
+    for (const QString& language : languages) {
+        const StringTable table = tableOf(language);
+        const PluralForm usual = pluralForm(u"14", language);
+        for (const QString& shown :
+             {QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("14"),
+              QStringLiteral("100"), QStringLiteral("0.4")}) {
+            const PluralForm form = pluralForm(shown, language);
+            const QString name = pluralForms.at(static_cast<qsizetype>(form));
+            for (const QString& key : keys)
+                EXPECT_TRUE(form == usual ||
+                            (table.forms.contains(key) && table.forms.at(key).contains(name)))
+                    << qPrintable(language + u' ' + name + u' ' + key);
         }
     }
 }
@@ -171,6 +218,48 @@ TEST(StringTable, IsInsideTheProgramForEachLanguage) {
         for (const auto& [key, text] : tableOf(language).texts)
             EXPECT_EQ(Bundle::main().localizedString(key), text) << qPrintable(language);
     }
+}
+
+struct FormCase {
+    const char* language;
+    QString shown;
+    QString text;
+};
+
+TEST(StringTable, NumbersBringTheFormOfTheirUnit) {
+    const std::vector<FormCase> cases = {
+        {"en", QStringLiteral("0"), QStringLiteral("degrees Celsius")},
+        {"en", QStringLiteral("1"), QStringLiteral("degree Celsius")},
+        {"en", QStringLiteral("2"), QStringLiteral("degrees Celsius")},
+        {"en", QStringLiteral("5"), QStringLiteral("degrees Celsius")},
+        {"en", QStringLiteral("11"), QStringLiteral("degrees Celsius")},
+        {"en", QStringLiteral("21"), QStringLiteral("degrees Celsius")},
+        {"en", QStringLiteral("-1"), QStringLiteral("degree Celsius")},
+        {"en", QStringLiteral("1.0"), QStringLiteral("degrees Celsius")},
+        {"ru", QStringLiteral("0"), QStringLiteral("градусов Цельсия")},
+        {"ru", QStringLiteral("1"), QStringLiteral("градус Цельсия")},
+        {"ru", QStringLiteral("2"), QStringLiteral("градуса Цельсия")},
+        {"ru", QStringLiteral("5"), QStringLiteral("градусов Цельсия")},
+        {"ru", QStringLiteral("11"), QStringLiteral("градусов Цельсия")},
+        {"ru", QStringLiteral("21"), QStringLiteral("градус Цельсия")},
+        {"ru", QStringLiteral("-1"), QStringLiteral("градус Цельсия")},
+        {"ru", QStringLiteral("1,0"), QStringLiteral("градуса Цельсия")},
+        {"pl", QStringLiteral("0"), QStringLiteral("stopni Celsjusza")},
+        {"pl", QStringLiteral("1"), QStringLiteral("stopień Celsjusza")},
+        {"pl", QStringLiteral("2"), QStringLiteral("stopnie Celsjusza")},
+        {"pl", QStringLiteral("5"), QStringLiteral("stopni Celsjusza")},
+        {"pl", QStringLiteral("11"), QStringLiteral("stopni Celsjusza")},
+        {"pl", QStringLiteral("21"), QStringLiteral("stopni Celsjusza")},
+        {"pl", QStringLiteral("-1"), QStringLiteral("stopień Celsjusza")},
+        {"pl", QStringLiteral("1,0"), QStringLiteral("stopnia Celsjusza")},
+        {"fr", QStringLiteral("0"), QStringLiteral("degré Celsius")},
+    };
+    for (const FormCase& row : cases) {
+        const InLanguage chosen(row.language);
+        EXPECT_EQ(localized(u"degrees Celsius", row.shown), row.text)
+            << row.language << ' ' << qPrintable(row.shown);
+    }
+    EXPECT_EQ(localized(u"Gusts", u"1"), QStringLiteral("Gusts")) << "a text without forms";
 }
 
 TEST(StringTable, OnlyKnownUnitsAreTranslated) {
