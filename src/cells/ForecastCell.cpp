@@ -207,10 +207,12 @@ ForecastDayView* ForecastCell::instantiateAndConfigureForecastDayViewForIndex(in
 }
 
 QString ForecastCell::spokenText() const {
-    if (!location_ || spokenDays_.isEmpty())
-        return {};
+    if (!location_)
+        return localized(u"no weather yet");
     const QString title = localized(u"forecast for %1").arg(location_->name().value_or(QString()));
-    return title + QStringLiteral(": ") + spokenDays_.join(QStringLiteral("; "));
+    const QString days = spokenDays_.isEmpty() ? localized(u"no weather yet")
+                                               : spokenDays_.join(QStringLiteral("; "));
+    return title + QStringLiteral(": ") + days;
 }
 
 }  // namespace zephyrix

@@ -222,11 +222,13 @@ void ObsCell::showAge(const Obs& record) {
 }
 
 QString ObsCell::spokenText() const {
-    if (!data_ || !location_ || defaults_ == nullptr)
+    if (!location_ || defaults_ == nullptr)
         return {};
-    QString text = spokenObservation(
-        *data_, {location_->name().value_or(QString()), detailLabel2_->text(), dateLabel_->text()},
-        chosenUnits());
+    const QString place = location_->name().value_or(QString());
+    if (!data_)
+        return place;
+    QString text = spokenObservation(*data_, {place, detailLabel2_->text(), dateLabel_->text()},
+                                     chosenUnits());
     if (ageLabel_ && !ageLabel_->isHidden())
         text += QStringLiteral(", ") + ageLabel_->text();
     return text;

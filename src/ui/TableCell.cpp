@@ -87,7 +87,9 @@ void TableCell::setSelectedBackgroundView(QWidget* view) {
 }
 
 QString TableCell::spokenText() const {
-    return textLabel_ ? textLabel_->text() : QString();
+    if (!givenSpokenText_.isEmpty() || !textLabel_)
+        return givenSpokenText_;
+    return textLabel_->text();
 }
 
 bool TableCell::event(QEvent* event) {

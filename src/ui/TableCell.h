@@ -51,8 +51,9 @@ class TableCell : public View, public NibObject {
     [[nodiscard]] const QMarginsF& separatorInset() const noexcept { return separatorInset_; }
     void setSeparatorInset(const QMarginsF& inset) { separatorInset_ = inset; }
 
-    /// What a screen reader says for the whole row.
+    /// What a screen reader says for the whole row: the text label's text unless given.
     [[nodiscard]] virtual QString spokenText() const;
+    void setSpokenText(const QString& text) { givenSpokenText_ = text; }
 
   protected:
     bool event(QEvent* event) override;
@@ -64,6 +65,7 @@ class TableCell : public View, public NibObject {
     void showSelectedBackground(bool animated);
 
     QString reuseIdentifier_;
+    QString givenSpokenText_;  // empty for none
     QPointer<Label> textLabel_;
     QPointer<QWidget> selectedBackground_;
     QMarginsF separatorInset_;

@@ -51,6 +51,7 @@ void TodayViewController::viewDidLoad() {
     TableViewController::viewDidLoad();
     // Clear, so that the panel's surface shows; the lines between the rows take its theme.
     tableView()->setBackgroundColor(Qt::transparent);
+    tableView()->setAccessibleName(QStringLiteral("Zephyrix"));
     if (moreButton_)
         moreButton_->setText(QString());
     if (const auto dictionary = sharedDefaults_->dictionary(locationKey)) {

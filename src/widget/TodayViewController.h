@@ -117,6 +117,7 @@ class TodayViewController : public TableViewController {
     void completeRefresh(const std::optional<WeatherData>& document,
                          const std::optional<FeedError>& error);
     [[nodiscard]] TableCell* firstRow(const IndexPath& path);
+    [[nodiscard]] TableCell* waitingRow(const IndexPath& path);
     [[nodiscard]] TableCell* messageRow(const IndexPath& path, const QString& message);
     template <class Cell, class Data>
     [[nodiscard]] TableCell* weatherRow(QLatin1String identifier, const IndexPath& path,

@@ -40,7 +40,7 @@ TableCell* TodayViewController::firstRow(const IndexPath& path) {
     if (!location_)
         return messageRow(path, localized(u"Please open Zephyrix to activate the widget."));
     if (!lastWeatherData_)
-        return messageRow(path, QString());
+        return waitingRow(path);
     return weatherRow<ObsCell>(Rows::CellIdentifiers::obsCell, path, lastWeatherData_->obs);
 }
 
@@ -58,12 +58,22 @@ TableCell* TodayViewController::weatherRow(QLatin1String identifier, const Index
     return cell;
 }
 
+// It shows nothing until there is something to show; who cannot see that is told.
+TableCell* TodayViewController::waitingRow(const IndexPath& path) {
+    TableCell* const cell = messageRow(path, QString());
+    QStringList words{location_->name().value_or(QString()), localized(u"no weather yet")};
+    words.removeAll(QString());
+    cell->setSpokenText(words.join(QStringLiteral(", ")));
+    return cell;
+}
+
 TableCell* TodayViewController::messageRow(const IndexPath& path, const QString& message) {
     TableCell* const cell = tableView()->dequeueReusableCell(Rows::CellIdentifiers::message, path);
     if (cell->textLabel() == nullptr)
         fatalError(
             QStringLiteral("the row \"%1\" has no text label").arg(Rows::CellIdentifiers::message));
     cell->textLabel()->setText(message);
+    cell->setSpokenText({});
     return cell;
 }
 

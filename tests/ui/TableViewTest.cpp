@@ -223,6 +223,36 @@ TEST_F(TableViewTest, IsAListOfPressableRowsForAssistivePrograms) {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(rows.button)->role(), QAccessible::Button);
 }
 
+QStringList accessibleTree(QAccessibleInterface* around) {
+    QStringList names;
+    for (int index = 0; index < around->childCount(); ++index) {
+        QAccessibleInterface* const child = around->child(index);
+        names << child->text(QAccessible::Name);
+        EXPECT_EQ(child->parent(), around);
+        EXPECT_EQ(around->indexOfChild(child), index);
+    }
+    return names;
+}
+
+TEST_F(TableViewTest, TheListHasItsRowsAndFooterAndNoSpareCells) {
+    rows.texts << QStringLiteral("b");
+    show();
+    rows.table.footerView()->setAccessibleName(QStringLiteral("footer"));
+    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&rows.table);
+    const QStringList expanded{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("footer")};
+    EXPECT_EQ(accessibleTree(table), expanded);
+    const QRect second = table->child(1)->rect();
+    EXPECT_EQ(table->childAt(second.center().x(), second.center().y()), table->child(1));
+
+    rows.texts.removeLast();
+    rows.table.deleteRow({1, 0}, TableView::RowAnimation::None);
+    rows.table.setFooterView(nullptr);
+    EXPECT_EQ(accessibleTree(table), QStringList{QStringLiteral("a")});
+    EXPECT_EQ(table->child(1), nullptr);
+    EXPECT_EQ(table->child(-1), nullptr);
+    EXPECT_EQ(table->indexOfChild(nullptr), -1);
+}
+
 TEST_F(TableViewTest, AssistiveProgramsPressTheRowTheyMeanAlsoWhileTheWindowIsNotActive) {
     rows.texts << QStringLiteral("b");
     show();

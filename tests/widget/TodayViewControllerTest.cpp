@@ -138,6 +138,24 @@ struct Age {
     int requests;
 };
 
+TEST_F(TodayViewControllerTest, EveryRowHasAnAccessibleNameFromTheStart) {
+    local().set(QStringLiteral("showingAll"), true);
+    const auto names = [this] {
+        return QStringList{row<TableCell>(0)->accessibleName(),
+                           row<TableCell>(1)->accessibleName()};
+    };
+    start();
+    EXPECT_EQ(names(), QStringList({QStringLiteral("Please open Zephyrix to activate the widget."),
+                                    QStringLiteral("no weather yet")}));
+    choosePlace();
+    start();
+    EXPECT_EQ(names(), QStringList({QStringLiteral("Berlin, no weather yet"),
+                                    QStringLiteral("forecast for Berlin: no weather yet")}));
+    appear();
+    EXPECT_TRUE(names().first().startsWith(QLatin1String("Berlin, 21 degrees Celsius, ")))
+        << qPrintable(names().first());
+}
+
 TEST_F(TodayViewControllerTest, FetchesFromSixHundredSecondsOn) {
     choosePlace();
     for (const Age age :
