@@ -9,6 +9,7 @@
 #include "foundation/NamedException.h"
 #include "foundation/TimeZone.h"
 #include "meteo/MeteoMapping.h"
+#include "ui/Theme.h"
 
 namespace zephyrix {
 
@@ -110,7 +111,8 @@ void ObsCell::fitSymbol() {
     constexpr int usualSize = 80;     // points
     constexpr int narrowSize = 64;    // points
     if (symbol() != nullptr) {
-        const int size = width() < narrowBelow ? narrowSize : usualSize;
+        const int size =
+            Theme::scaled(width() < Theme::scaled(narrowBelow) ? narrowSize : usualSize);
         symbol()->setFixedSize(size, size);
     }
 }

@@ -79,7 +79,8 @@ class Panel {
   private:
     static constexpr int reported = 3;  // how the event loop ends when there is something to report
 
-    [[nodiscard]] int width() const { return qRound(options_.width); }
+    /// Points of the screen.
+    [[nodiscard]] int width() const { return Theme::scaled(options_.width); }
     [[nodiscard]] double scale() const { return options_.scale.value_or(qApp->devicePixelRatio()); }
 
     [[nodiscard]] TodayViewController& controller() { return live_->controller(); }
@@ -94,15 +95,19 @@ class Panel {
         QObject::connect(
             live_.get(), &LivePanel::placeChanged, &receiver_, [this] { startOver(); },
             Qt::QueuedConnection);
+        QObject::connect(
+            &live_->view(), &PanelView::textScaleChanged, &receiver_, [this] { startOver(); },
+            Qt::QueuedConnection);
     }
 
-    /// For another place, as at view load.
+    /// For another place or another size of texts, as at view load.
     void startOver() {
         if (display_ == nullptr)
             return;
         display_->letGo();
         live_.reset();
         makeLive(false);
+        display_->setWidth(width());
         display_->hold(*live_);
     }
 

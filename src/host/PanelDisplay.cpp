@@ -52,6 +52,15 @@ void PanelDisplay::letGo() {
     panel.disappear();
 }
 
+void PanelDisplay::setWidth(int width) {
+    if (std::exchange(width_, width) == width)
+        return;
+    if (window_)
+        window_->setPanelWidth(width);
+    if (popup_)
+        popup_->setPanelWidth(width);
+}
+
 void PanelDisplay::show() {
     if (frame_ != nullptr) {
         frame_->setWindowState(frame_->windowState() & ~Qt::WindowMinimized);

@@ -22,12 +22,16 @@ class PanelDisplay : public QObject {
     Q_OBJECT
 
   public:
-    /// The panel's width in points, and whether a tray is to be used where there is one.
+    /// The panel's width in points of the screen, and whether a tray is to be used where there is
+    /// one.
     PanelDisplay(int width, bool useTray);
     ~PanelDisplay() override;
 
     /// Takes the panel, which appears now if the one before it was let go while it was shown.
     void hold(LivePanel& panel);
+    /// For the next panel. A window that its user has resized keeps its size unless this is another
+    /// width.
+    void setWidth(int width);
     /// The panel disappears; what surrounds it stays on the screen for the next.
     void letGo();
 

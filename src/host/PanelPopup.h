@@ -18,6 +18,7 @@ class PanelPopup : public PanelFrame {
   public:
     /// The panel's width, in points.
     explicit PanelPopup(int width);
+    void setPanelWidth(int width) { width_ = width; }
 
     void letGo() override;
 

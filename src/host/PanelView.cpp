@@ -9,10 +9,15 @@ namespace zephyrix {
 
 namespace {
 
-// What the desktop would like to keep free, in points; the panel answers what it takes of it.
+// What the desktop would like to keep free, in points of the panel; it answers what it takes of it.
 constexpr QMarginsF proposedMargins(16.0, 0.0, 0.0, 16.0);
-constexpr int sourceHeight = 20;  // points
-constexpr int sourceInset = 12;   // points on each side
+constexpr int sourceHeight = 20;  // points of the panel
+constexpr int sourceInset = 12;   // on each side
+
+/// The panel is the screen of its rows: they choose by its width in points of the panel.
+void tellScreen(const QSizeF& size, double scale) {
+    Screen::setMain(QRectF({}, size / Theme::textScale()), scale);
+}
 
 }  // namespace
 
@@ -30,15 +35,19 @@ PanelView::PanelView(TodayViewController& controller)
     showSource();
 }
 
+QMarginsF PanelView::marginsNow() const {
+    return controller_.widgetMarginInsetsForProposedMarginInsets(proposedMargins) *
+           Theme::textScale();
+}
+
 int PanelView::panelHeight() const {
-    const QMarginsF margins =
-        controller_.widgetMarginInsetsForProposedMarginInsets(proposedMargins);
+    const QMarginsF margins = marginsNow();
     return qRound(margins.top() + controller_.tableView()->contentHeight() + margins.bottom()) +
-           (source_->isVisibleTo(this) ? sourceHeight : 0);
+           (source_->isVisibleTo(this) ? Theme::scaled(sourceHeight) : 0);
 }
 
 void PanelView::layOut(int width, double scale) {
-    Screen::setMain(QRectF(0.0, 0.0, width, panelHeight()), scale);
+    tellScreen(QSizeF(width, panelHeight()), scale);
     if (controller_.cs().winscale() != scale) {
         controller_.cs().setWinscale(scale);
         controller_.tableView()->reloadData();
@@ -56,20 +65,25 @@ void PanelView::focusFirstRow() {
         row->setFocus(Qt::NoFocusReason);  // without the ring, until the keyboard is used
 }
 
+bool PanelView::event(QEvent* event) {
+    if (event->type() == QEvent::ApplicationFontChange && textScale_ != Theme::textScale())
+        Q_EMIT textScaleChanged();
+    return QWidget::event(event);
+}
+
 void PanelView::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    Screen::setMain(QRectF(rect()), Screen::main().scale());
+    tellScreen(QSizeF(size()), Screen::main().scale());
     place();
 }
 
 void PanelView::place() {
-    const QMargins margins =
-        controller_.widgetMarginInsetsForProposedMarginInsets(proposedMargins).toMargins();
-    const QRect inside = rect().marginsRemoved(margins);
+    const QRect inside = rect().marginsRemoved(marginsNow().toMargins());
     const int tableHeight = qRound(controller_.tableView()->contentHeight());
     controller_.tableView()->setGeometry(inside.x(), inside.y(), inside.width(), tableHeight);
-    source_->setGeometry(inside.x() + sourceInset, inside.y() + tableHeight,
-                         inside.width() - 2 * sourceInset, sourceHeight);
+    const int inset = Theme::scaled(sourceInset);
+    source_->setGeometry(inside.x() + inset, inside.y() + tableHeight, inside.width() - 2 * inset,
+                         Theme::scaled(sourceHeight));
 }
 
 void PanelView::showSource() {

@@ -3,7 +3,6 @@
 #include <QPainter>
 #include <QResizeEvent>
 
-#include "foundation/Screen.h"
 #include "ui/PanelSurface.h"
 #include "ui/Theme.h"
 
@@ -11,12 +10,16 @@ namespace zephyrix {
 
 namespace {
 
-constexpr int leastWidth = 320;  // points
+constexpr int leastWidth = 320;  // points of the panel
 
 }  // namespace
 
 PanelWindow::PanelWindow(int width) : PanelFrame(Qt::Window) {
-    setMinimumWidth(leastWidth);
+    setPanelWidth(width);
+}
+
+void PanelWindow::setPanelWidth(int width) {
+    setMinimumWidth(Theme::scaled(leastWidth));
     resize(width, height());
 }
 
@@ -43,7 +46,6 @@ void PanelWindow::paintEvent(QPaintEvent* /*event*/) {
 
 void PanelWindow::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    Screen::setMain(QRectF(rect()), devicePixelRatioF());
     if (view() != nullptr)
         view()->setGeometry(rect());
 }

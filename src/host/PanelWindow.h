@@ -11,6 +11,7 @@ class PanelWindow : public PanelFrame {
   public:
     /// Its first width, in points; the user may change it.
     explicit PanelWindow(int width);
+    void setPanelWidth(int width);
 
   protected:
     void embed(PanelView& view) override;

@@ -10,6 +10,7 @@
 #include <QMetaEnum>
 #include <QMetaProperty>
 
+#include "Theme.h"
 #include "foundation/FatalError.h"
 
 namespace zephyrix {
@@ -31,11 +32,18 @@ QList<int> numbersIn(const QString& list) {
     return numbers;
 }
 
-/// The numbers of the elements inside this one, in their order.
-QList<int> numbersInside(QXmlStreamReader& xml) {
+/// Points of the panel in points of the screen, where texts may be larger. No limit stays none, and
+/// a line stays a line.
+int scaledLength(const QString& text) {
+    const int points = text.toInt();
+    return points <= 1 || points == QWIDGETSIZE_MAX ? points : Theme::scaled(points);
+}
+
+/// The lengths of the elements inside this one, in their order.
+QList<int> lengthsInside(QXmlStreamReader& xml) {
     QList<int> numbers;
     while (xml.readNextStartElement())
-        numbers << xml.readElementText().toInt();
+        numbers << scaledLength(xml.readElementText());
     numbers.resize(4);  // a rectangle has the most
     return numbers;
 }
@@ -63,7 +71,7 @@ struct ValueRow {
 };
 
 constexpr std::array valueTable{
-    ValueRow{"number", [](auto& xml) { return QVariant(xml.readElementText().toInt()); }},
+    ValueRow{"number", [](auto& xml) { return QVariant(scaledLength(xml.readElementText())); }},
     ValueRow{"double", [](auto& xml) { return QVariant(xml.readElementText().toDouble()); }},
     ValueRow{"bool",
              [](auto& xml) { return QVariant(xml.readElementText() == QLatin1String("true")); }},
@@ -73,12 +81,12 @@ constexpr std::array valueTable{
     ValueRow{"set", [](auto& xml) { return QVariant(xml.readElementText()); }},
     ValueRow{"size",
              [](auto& xml) {
-                 const auto numbers = numbersInside(xml);
+                 const auto numbers = lengthsInside(xml);
                  return QVariant(QSize(numbers[0], numbers[1]));
              }},
     ValueRow{"rect",
              [](auto& xml) {
-                 const auto numbers = numbersInside(xml);
+                 const auto numbers = lengthsInside(xml);
                  return QVariant(QRect(numbers[0], numbers[1], numbers[2], numbers[3]));
              }},
     ValueRow{"stringlist", [](auto& xml) { return QVariant(textsInside(xml)); }},

@@ -33,6 +33,9 @@ class NibObject {
 ///     const Nib nib(QStringLiteral("ObsCell"));
 ///     ObsCell* cell = nib.instantiate<ObsCell>(parent);
 ///
+/// Its numbers are points of the panel, and so many points of the screen as the theme's text scale
+/// says at the time of reading.
+///
 /// Own classes must be registered before; the pieces of this folder are. An unknown class stops the
 /// process with a line that names it and the description.
 class Nib {

@@ -204,7 +204,7 @@ void TableView::setFooterView(QWidget* footer) {
 
 double TableView::rowHeight(int row) const {
     Q_ASSERT(controller_ != nullptr);  // without one there are no rows
-    return controller_->heightForRowAtIndexPath({row, 0});
+    return controller_->heightForRowAtIndexPath({row, 0}) * Theme::textScale();
 }
 
 double TableView::rowsHeight() const {
@@ -255,7 +255,7 @@ void TableView::moveToContentHeight(bool animated) {
 
 QSize TableView::sizeHint() const {
     constexpr int usualWidth = 375;  // points
-    return {usualWidth, qRound(contentHeight_)};
+    return {Theme::scaled(usualWidth), qRound(contentHeight_)};
 }
 
 int TableView::rowAt(const QPointF& position) const {
@@ -316,7 +316,8 @@ void TableView::paintSeparators() {
         const bool last = row + 1 == rows_.size();
         if (last && !footer_)
             return;
-        const QMarginsF inset = last ? QMarginsF() : rows_[row]->separatorInset();
+        const QMarginsF inset =
+            last ? QMarginsF() : rows_[row]->separatorInset() * Theme::textScale();
         const bool mirrored = layoutDirection() == Qt::RightToLeft;
         const double left = mirrored ? inset.right() : inset.left();
         const double bottom = last ? rowArea_->height() : rows_[row]->geometry().bottom() + 1;

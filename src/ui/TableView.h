@@ -16,9 +16,9 @@ namespace zephyrix {
 
 class TableViewController;
 
-/// A table of one section: rows below each other, each as high as the controller says, a line
-/// between them, and a footer. It asks its controller for everything and keeps the cells for use
-/// again.
+/// A table of one section: rows below each other, each as high as the controller says (in points
+/// of the panel), a line between them, and a footer. It asks its controller for everything and
+/// keeps the cells for use again.
 ///
 /// Reloading is lazy: reloadData() only remembers; the controller is asked for its rows in the next
 /// layout pass (before the next paint, or at layoutIfNeeded()).
@@ -63,8 +63,8 @@ class TableView : public View, public NibObject {
     void setFooterView(QWidget* footer);
     void connectOutlets() override;
 
-    /// Points. While a row fades in or out it moves to its new value; contentHeightChanged() tells
-    /// each step, so that a window can follow.
+    /// Points of the screen. While a row fades in or out it moves to its new value;
+    /// contentHeightChanged() tells each step, so that a window can follow.
     [[nodiscard]] double contentHeight() const noexcept { return contentHeight_; }
     /// All due passes now, its own and those of its cells.
     void layoutIfNeeded();

@@ -21,7 +21,8 @@ QSize TextButton::sizeHint() const {
     constexpr int sideMargin = 12;  // points
     constexpr int height = 36;      // points
     const TextLine line(text(), Theme::font(Theme::TextStyle::Button));
-    return {static_cast<int>(std::ceil(line.width())) + 2 * sideMargin, height};
+    return {static_cast<int>(std::ceil(line.width())) + 2 * Theme::scaled(sideMargin),
+            Theme::scaled(height)};
 }
 
 void TextButton::paintEvent(QPaintEvent* /*event*/) {

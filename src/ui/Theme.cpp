@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QFontDatabase>
 #include <QPalette>
+#include <QScreen>
 #include <QWidget>
 
 namespace zephyrix {
@@ -45,7 +46,7 @@ constexpr std::array colorTable = {
 struct TextStyleRow {
     TextStyle style;
     const char* name;
-    double size;  // points of the panel, at text scale 1
+    double size;  // points of the panel
     QFont::Weight weight;
     Color color;
     bool tabular;  // figures of one width: for numbers below or beside each other
@@ -114,7 +115,7 @@ QColor Theme::color(Color color, Scheme scheme) {
 QFont Theme::font(TextStyle style) {
     const TextStyleRow& row = rowOf(style);
     QFont font(fontFamily());
-    font.setPixelSize(qRound(row.size * textScale()));
+    font.setPixelSize(scaled(row.size));
     font.setWeight(row.weight);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
@@ -136,12 +137,18 @@ std::optional<Theme::TextStyle> Theme::textStyleNamed(const QString& name) {
 }
 
 double Theme::textScale() {
-    constexpr double leastUsual = 9.0;
+    constexpr double leastUsual = 9.0;  // point
     constexpr double mostUsual = 11.0;
-    const double points = QApplication::font().pointSizeF();
-    if (points <= 0.0)
+    constexpr double usualDensity = 96.0;  // dots an inch; desktops also scale texts by it
+    const double density = QGuiApplication::primaryScreen()->logicalDotsPerInch() / usualDensity;
+    const double size = QApplication::font().pointSizeF() * density;
+    if (size <= 0.0)
         return 1.0;
-    return std::clamp(points / std::clamp(points, leastUsual, mostUsual), 0.9, 1.25);
+    return std::clamp(size / std::clamp(size, leastUsual, mostUsual), 0.9, 2.0);
+}
+
+int Theme::scaled(double points) {
+    return qRound(points * textScale());
 }
 
 }  // namespace zephyrix

@@ -61,8 +61,12 @@ class Theme {
     [[nodiscard]] static bool hasTabularFigures(TextStyle style);
     /// Nothing for a name that no style has.
     [[nodiscard]] static std::optional<TextStyle> textStyleNamed(const QString& name);
-    /// The desktop's text size against the usual one: 1.0 for 9 to 11 point, at most 1.25.
+    /// The desktop's text size against the usual one: 1.0 for 9 to 11 point, from 0.9 to 2.0. The
+    /// whole panel has that scale: texts and measures, so that the one always fits the other. A
+    /// point of the panel is so many points of the screen.
     [[nodiscard]] static double textScale();
+    /// Points of the panel in whole points of the screen.
+    [[nodiscard]] static int scaled(double points);
 
     static constexpr double surfaceRadius = 18.0;  // points
     static constexpr int fadeDuration = 250;       // milliseconds

@@ -80,7 +80,8 @@ class TodayViewController : public TableViewController {
 
     /// Expands or collapses.
     void didPressButton(QAbstractButton* button);
-    /// Points: the first row, the button where there is one, and the second row when expanded.
+    /// Points of the panel: the first row, the button where there is one, and the second row when
+    /// expanded.
     [[nodiscard]] double preferredViewHeight() const;
     void resetContentSize();
 

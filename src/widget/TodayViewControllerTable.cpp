@@ -7,6 +7,7 @@
 #include "cells/ObsCell.h"
 #include "foundation/FatalError.h"
 #include "foundation/Localized.h"
+#include "ui/Theme.h"
 #include "ui/VisualEffectView.h"
 
 namespace zephyrix {
@@ -130,7 +131,7 @@ void TodayViewController::setShowingAll(bool showingAll) {
 double TodayViewController::preferredViewHeight() const {
     double height = Rows::obsRowHeight;
     if (moreButton_)
-        height += moreButton_->height();
+        height += moreButton_->height() / Theme::textScale();
     if (showingAll_)
         height += Rows::overviewRowHeight;
     return height;

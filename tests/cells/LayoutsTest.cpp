@@ -15,6 +15,7 @@ namespace {
 using testing::ScopedEnvironment;
 using testing::showerInBerlin;
 using testing::Stage;
+using testing::TextSize;
 using testing::Weather;
 
 TEST(Layouts, EveryShippedOneLoads) {
@@ -88,6 +89,26 @@ struct TextCase {
     const char* place;
 };
 
+void expectGoodLayout(const Weather& weather, int width, const char* locale) {
+    Stage stage(weather, width, 1.0);
+    stage.layOut();
+    stage.toggle();
+    stage.layOut();
+    const std::string where = std::string(locale) + " at " + std::to_string(width) +
+                              " with texts x " + std::to_string(Theme::textScale());
+    expectNothingOverlaps(stage.obsCell(), where);
+    expectNothingOverlaps(stage.forecastCell(), where);
+    // Numbers are never elided; words and names may be.
+    QList<const Label*> numbers{stage.obsCell()->detailLabel1(), stage.obsCell()->rrr(),
+                                stage.obsCell()->ppp(), stage.obsCell()->dateLabel()};
+    const auto days = stage.forecastCell()->findChildren<ForecastDayView*>();
+    EXPECT_EQ(days.size(), width > 414 ? 5 : width > 375 ? 4 : 3) << where;
+    for (const auto* day : days)
+        numbers << day->tx() << day->tn();
+    for (const Label* label : numbers)
+        EXPECT_FALSE(label->isTruncated()) << where << " " << qPrintable(label->objectName());
+}
+
 TEST(Layouts, NothingOverlapsOrIsCutAtAnyWidth) {
     const ReplacedClock clock([] { return Instant::fromSecondsSince1970(1433174400.0); });
     const ScopedEnvironment language{{"LANG", "en_US.UTF-8"}};
@@ -98,29 +119,37 @@ TEST(Layouts, NothingOverlapsOrIsCutAtAnyWidth) {
     weather.observation[QStringLiteral("rrrh")] = 12;
     for (const auto& [locale, place] :
          {TextCase{"de_DE.UTF-8", "Llanfairpwllgwyngyll in der Lausitz"},
+          TextCase{"fr_FR.UTF-8", "Saint-Remy-en-Bouzemont-Saint-Genest-et-Isson"},
           TextCase{"ru_RU.UTF-8", "Петропавловск-Камчатский"}}) {
         testing::useLanguage(locale);
         weather.place[QStringLiteral("name")] = QString::fromUtf8(place);
-        for (int width = 320; width <= 600; width += 20) {
-            Stage stage(weather, width, 1.0);
-            stage.layOut();
-            stage.toggle();
-            stage.layOut();
-            const std::string where = std::string(locale) + " at " + std::to_string(width);
-            expectNothingOverlaps(stage.obsCell(), where);
-            expectNothingOverlaps(stage.forecastCell(), where);
-            // Numbers are never elided; words and names may be.
-            for (const Label* label : {stage.obsCell()->detailLabel1(), stage.obsCell()->rrr(),
-                                       stage.obsCell()->ppp(), stage.obsCell()->dateLabel()})
-                EXPECT_FALSE(label->isTruncated())
-                    << where << " " << qPrintable(label->objectName());
-            for (const auto* day : stage.forecastCell()->findChildren<ForecastDayView*>()) {
-                EXPECT_FALSE(day->tx()->isTruncated()) << where;
-                EXPECT_FALSE(day->tn()->isTruncated()) << where;
-            }
+        for (int width = 320; width <= 600; width += 20)
+            expectGoodLayout(weather, width, locale);
+        for (const double textScale : {0.9, 1.15, 1.25, 1.33, 1.5, 1.7, 2.0}) {
+            const TextSize size(textScale);
+            for (int width = 320; width <= 600; width += 40)
+                expectGoodLayout(weather, width, locale);
         }
     }
     testing::useLanguage("en_US.UTF-8");
+}
+
+// The panel is the same at any size of texts, only bigger.
+TEST(Layouts, GrowWithTheDesktopsTexts) {
+    Stage usual(showerInBerlin(), 400, 1.0);
+    usual.layOut();
+    usual.layOut();
+    const QSize symbol = usual.obsCell()->symbol()->size();
+    const TextSize twice(2.0);
+    Stage stage(showerInBerlin(), 400, 1.0);
+    stage.layOut();
+    stage.layOut();  // the first one brings the surface to its width
+    EXPECT_EQ(stage.obsCell()->size(), QSize(800, 220));
+    EXPECT_EQ(stage.obsCell()->symbol()->size(), symbol * 2);
+    EXPECT_EQ(stage.tableView()->footerView()->height(), 72);
+    EXPECT_EQ(Theme::font(Theme::TextStyle::Title).pixelSize(), 30);
+    const TextSize huge(5.0);
+    EXPECT_EQ(Theme::textScale(), 2.0);
 }
 
 TEST(Layouts, RunFromRightToLeftWhereTheScriptDoes) {

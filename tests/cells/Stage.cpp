@@ -62,10 +62,22 @@ void useLanguage(const char* locale) {
     MeteoMapping::finalizeStatements();
 }
 
+TextSize::TextSize(double scale) : before_(QApplication::font()) {
+    constexpr double leastUsual = 9.0;  // point
+    constexpr double mostUsual = 11.0;
+    QFont font = before_;
+    font.setPointSizeF(scale < 1.0 ? leastUsual * scale : mostUsual * scale);
+    QApplication::setFont(font);
+}
+
+TextSize::~TextSize() {
+    QApplication::setFont(before_);
+}
+
 Stage::Stage(Weather weather, int width, double scale)
     : TableViewController(QStringLiteral("TodayViewController")),
       weather_(std::move(weather)),
-      width_(width),
+      width_(Theme::scaled(width)),
       scale_(prepareScreen(width, scale)),
       defaults_(UserDefaults::suite(QStringLiteral("stage"))) {
     for (const char* unit : {"temperature", "wind", "precipitation", "pressure"})

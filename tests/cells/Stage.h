@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 
+#include <QFont>
 #include <QImage>
 #include <QVariantList>
 #include <QVariantMap>
@@ -29,13 +30,25 @@ struct Weather {
 /// The environment's language and regional conventions, for everything that is shown next.
 void useLanguage(const char* locale);
 
+/// While it lives, the desktop has texts of this scale.
+class TextSize {
+  public:
+    explicit TextSize(double scale);
+    ~TextSize();
+    TextSize(const TextSize&) = delete;
+    TextSize& operator=(const TextSize&) = delete;
+
+  private:
+    QFont before_;
+};
+
 /// A table of the two rows in the panel's own layouts, on its surface: real widgets without the
 /// panel's controller. Needs an application object, as do all widgets.
 class Stage : public TableViewController {
     Q_OBJECT
 
   public:
-    /// width in points; scale in pixels a point.
+    /// width in points of the panel; scale in pixels a point of the screen.
     Stage(Weather weather, int width, double scale);
     ~Stage() override;
 

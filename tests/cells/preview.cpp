@@ -28,6 +28,7 @@ struct Case {
     Theme::Scheme scheme;
     bool expanded;
     State state;
+    double textScale = 1.0;
 };
 
 constexpr auto light = Theme::Scheme::Light;
@@ -50,6 +51,14 @@ constexpr std::array cases = {
     Case{"en-375-light-pressed", "en_GB.UTF-8", "Berlin", 375, 2.0, light, true, State::Pressed},
     Case{"en-375-dark-focused", "en_GB.UTF-8", "Berlin", 375, 2.0, dark, true, State::Focused},
     Case{"en-375-light-focused", "en_GB.UTF-8", "Berlin", 375, 2.0, light, true, State::Focused},
+    Case{"de-320-text-2.0", "de_DE.UTF-8", "Frankfurt am Main", 320, 1.0, dark, true, State::Plain,
+         2.0},
+    Case{"ru-320-text-1.5", "ru_RU.UTF-8", "Санкт-Петербург", 320, 1.0, light, true, State::Plain,
+         1.5},
+    Case{"fr-414-text-1.33", "fr_FR.UTF-8", "Saint-Étienne", 414, 2.0, dark, true, State::Plain,
+         1.33},
+    Case{"ru-600-text-2.0", "ru_RU.UTF-8", "Санкт-Петербург", 600, 1.0, dark, true, State::Plain,
+         2.0},
 };
 
 Weather weatherOf(const Case& shown) {
@@ -69,6 +78,7 @@ Weather weatherOf(const Case& shown) {
 void paint(const Case& shown, const QDir& folder) {
     useLanguage(shown.locale);
     Theme::setScheme(shown.scheme);
+    const TextSize texts(shown.textScale);
     Stage stage(weatherOf(shown), shown.width, shown.scale);
     stage.layOut();
     if (shown.expanded)

@@ -1,5 +1,6 @@
 #include <memory>
 
+#include <QApplication>
 #include <gtest/gtest.h>
 
 #include "cells/ForecastCell.h"
@@ -56,6 +57,38 @@ TEST_F(PanelViewTest, NarrowerPanelHasFewerDays) {
         EXPECT_EQ(row<ForecastCell>(1)->container()->findChildren<ForecastDayView*>().size(), days)
             << width << " points";
     }
+}
+
+TEST_F(PanelViewTest, GrowsWithTheDesktopsTexts) {
+    int told = 0;
+    QObject::connect(view_.get(), &PanelView::textScaleChanged, view_.get(), [&] { ++told; });
+    view_->layOut(440, 1.0);
+    const int usual = view_->panelHeight();
+    const QFont font = QApplication::font();
+    QFont other = font;
+    other.setItalic(true);
+    const auto choose = [this](const QFont& chosen) {
+        QApplication::setFont(chosen);
+        QEvent change(QEvent::ApplicationFontChange);  // comes by itself while a program runs
+        QApplication::sendEvent(view_.get(), &change);
+    };
+    choose(other);
+    EXPECT_EQ(told, 0);
+    other.setPointSizeF(22.0);
+    choose(other);
+    EXPECT_EQ(told, 1);
+    // As the host then makes it anew.
+    view_.reset();
+    controller_ = std::make_unique<TodayViewController>([](const auto&) {});
+    view_ = std::make_unique<PanelView>(*controller_);
+    controller_->setLastWeatherData(
+        FeedAnswer::fromBody(feedDocument(21.0, Clock::now()), Number(18228265)).document);
+    view_->layOut(800, 1.0);
+    EXPECT_EQ(view_->panelHeight(), 2 * usual);
+    EXPECT_EQ(controller_->preferredViewHeight(), 110 + 36 + 104) << "points of the panel";
+    EXPECT_EQ(row<ForecastCell>(1)->container()->findChildren<ForecastDayView*>().size(), 4)
+        << "400 points of the panel";
+    QApplication::setFont(font);
 }
 
 TEST_F(PanelViewTest, SourceIsNamedBelowTheRows) {
