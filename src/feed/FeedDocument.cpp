@@ -24,6 +24,11 @@ QJsonValue json(const std::optional<int>& code) {
     return code.value_or(missing);
 }
 
+/// The mark for a missing number would be read as a code and drawn; 0 draws nothing.
+QJsonValue symbolJson(const std::optional<int>& code) {
+    return code.value_or(0);
+}
+
 /// "2015-06-01T12:00:00+02:00"; the offset is written out also where it is +00:00.
 QString timeText(Instant time, const QTimeZone& zone) {
     const QDateTime utc = time.toDateTime();
@@ -37,7 +42,7 @@ QString timeText(Instant time, const QTimeZone& zone) {
 
 QJsonObject json(const Observation& observation, const QTimeZone& zone) {
     return {{QStringLiteral("datetime"), timeText(observation.time, zone)},
-            {QStringLiteral("symbol"), json(observation.symbol)},
+            {QStringLiteral("symbol"), symbolJson(observation.symbol)},
             {QStringLiteral("tt"), json(observation.temperature)},
             {QStringLiteral("td"), json(observation.dewPoint)},
             {QStringLiteral("dd"), json(observation.windDirection)},
@@ -63,7 +68,7 @@ void addSource(QJsonObject& observation, const Weather& weather) {
 
 QJsonObject json(const ForecastDay& day) {
     return {{QStringLiteral("date"), day.date.toString(Qt::ISODate)},
-            {QStringLiteral("symbol"), json(day.symbol)},
+            {QStringLiteral("symbol"), symbolJson(day.symbol)},
             {QStringLiteral("tx"), json(day.highest)},
             {QStringLiteral("tn"), json(day.lowest)}};
 }

@@ -29,7 +29,9 @@ TrayIcon::TrayIcon() {
 
 void TrayIcon::showWeather(TodayViewController& controller) {
     const auto& document = controller.lastWeatherData();
-    const bool known = document && document->obs && document->obs->symbol;
+    // A symbol of nothing would be an icon that nobody finds.
+    const bool known = document && document->obs && document->obs->symbol &&
+                       document->obs->symbol->integerValue() > 0;
     // Not the controller's own, as a symbol may leave its mark on the next.
     QKCompoundSymbol symbols;
     const QImage picture =
