@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QPainter>
 
+#include "BarFollower.h"
 #include "DesktopContext.h"
 #include "FeedAddress.h"
 #include "LivePanel.h"
@@ -59,6 +60,17 @@ class Panel {
         return status;
     }
 
+    /// Ends when it is told to, and when nobody reads its lines.
+    int follow(QTextStream& out) {
+        BarFollower follower(BarFormat(*options_.format), out);
+        QObject::connect(&follower, &BarFollower::abandoned, qApp, [] { QApplication::quit(); });
+        follower_ = &follower;
+        follower.hold(*live_);
+        const int status = QApplication::exec();
+        follower_ = nullptr;
+        return status;
+    }
+
     int report(QTextStream& out) {
         controller().viewWillAppear(false);
         if (controller().isRefreshing()) {
@@ -71,6 +83,8 @@ class Panel {
         const RowReport rows(controller());
         if (options_.text)
             out << rows.text();
+        if (options_.format)
+            out << BarFormat(*options_.format).line(controller()) << '\n';
         if (options_.json)
             out << QJsonDocument(rows.json()).toJson(QJsonDocument::Indented);
         return options_.snapshot ? writePicture(*options_.snapshot) : 0;
@@ -102,11 +116,14 @@ class Panel {
 
     /// For another place or another size of texts, as at view load.
     void startOver() {
-        if (display_ == nullptr)
+        if (display_ != nullptr)
+            display_->letGo();
+        else if (follower_ == nullptr)
             return;
-        display_->letGo();
         live_.reset();
         makeLive(false);
+        if (follower_ != nullptr)
+            return follower_->hold(*live_);
         display_->setWidth(width());
         display_->hold(*live_);
     }
@@ -145,16 +162,18 @@ class Panel {
     QObject receiver_;
     std::unique_ptr<PaintTime> paintTime_;  // where it is asked for
     PanelDisplay* display_ = nullptr;       // while it is not only a report
+    BarFollower* follower_ = nullptr;       // while it reports to a bar
 };
 
 }  // namespace
 
 int runPanel(const PanelOptions& options, char* programName, QTextStream& out) {
     if (!hasDisplay() && !options.reportsOnly()) {
-        logLine(QStringLiteral("there is no display; --text, --json and --snapshot need none"));
+        logLine(QStringLiteral(
+            "there is no display; --text, --json, --format and --snapshot need none"));
         return 1;
     }
-    if (!hasDisplay())
+    if (!hasDisplay() || options.format)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     std::array<char*, 2> arguments{programName, nullptr};
     int count = 1;
@@ -169,6 +188,8 @@ int runPanel(const PanelOptions& options, char* programName, QTextStream& out) {
     // The symbols take the screen's scale when the controller is made.
     Screen::setMain(QRectF(0.0, 0.0, options.width, 0.0),
                     options.scale.value_or(application.devicePixelRatio()));
+    if (options.follow)
+        return Panel(options).follow(out);
     if (options.reportsOnly())
         return Panel(options).report(out);
     const OnlyInstance instance;

@@ -8,6 +8,7 @@
 #include <QTextStream>
 #include <QUrl>
 
+#include "BarFormat.h"
 #include "widget/FeedRequest.h"
 
 namespace zephyrix {
@@ -24,6 +25,8 @@ constexpr std::array options{
     OptionRow{"window", nullptr, "a window, also where a tray could show the panel"},
     OptionRow{"text", nullptr, "print what the panel shows, and end"},
     OptionRow{"json", nullptr, "print what the panel shows as one JSON object, and end"},
+    OptionRow{"format", "FORMAT", "print one line for a bar: waybar, polybar, or '{symbol} ...'"},
+    OptionRow{"follow", nullptr, "with --format, print anew when something has changed"},
     OptionRow{"snapshot", "FILE.png", "write a picture of the panel, and end"},
     OptionRow{"expanded", nullptr, "begin with the forecast"},
     OptionRow{"width", "W", "the panel's width in points, 320 to 2000 (440)"},
@@ -63,6 +66,15 @@ PanelOptions::Scheme schemeNamed(const QString& name) {
     throw PanelOptions::Error(QStringLiteral("--scheme is light or dark, not \"%1\"").arg(name));
 }
 
+QString barFormat(const QString& given) {
+    try {
+        const BarFormat understood(given);
+    } catch (const BarFormat::Error& error) {
+        throw PanelOptions::Error(error.text());
+    }
+    return given;
+}
+
 QString feedAddressFrom(const QString& given) {
     QString address = completeFeedAddress(given);
     if (!FeedRequest::isFeedAddress(QUrl(address, QUrl::StrictMode)))
@@ -93,6 +105,13 @@ PanelOptions PanelOptions::parse(const QStringList& arguments) {
     asked.paintTime = isSet("paint-time");
     if (asked.text && asked.json)
         throw Error(QStringLiteral("--text and --json cannot be printed together"));
+    if (isSet("format"))
+        asked.format = barFormat(parser.value(QStringLiteral("format")));
+    asked.follow = isSet("follow");
+    if (asked.format && (asked.text || asked.json || isSet("snapshot")))
+        throw Error(QStringLiteral("--format prints alone, without --text, --json and --snapshot"));
+    if (asked.follow && !asked.format)
+        throw Error(QStringLiteral("--follow goes with --format"));
     if (isSet("snapshot"))
         asked.snapshot = parser.value(QStringLiteral("snapshot"));
     if (isSet("width"))

@@ -22,6 +22,8 @@ struct PanelOptions {
     bool json = false;                // the same for programs
     bool expanded = false;            // begin with the forecast row
     bool paintTime = false;           // print how long it took until the panel was painted
+    std::optional<QString> format;    // print one line for a bar; see BarFormat
+    bool follow = false;              // and print it anew when it has changed
     std::optional<QString> snapshot;  // the picture file to write
     double width = 440.0;             // of the panel, in points
     std::optional<double> scale;      // device pixels a point; the screen's unless given
@@ -29,7 +31,7 @@ struct PanelOptions {
     FeedChoice feed;
 
     /// Whether the panel reports and ends, without appearing on a screen.
-    [[nodiscard]] bool reportsOnly() const noexcept { return text || json || snapshot; }
+    [[nodiscard]] bool reportsOnly() const noexcept { return text || json || format || snapshot; }
 
     /// Raised by parse(): one line for the person who typed it.
     class Error : public std::runtime_error {

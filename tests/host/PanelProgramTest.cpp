@@ -215,5 +215,74 @@ TEST_F(PanelWindowTest, ItsFeedEndsWithItHoweverItEnds) {
     }
 }
 
+/// A bar that reads one line after the other.
+class Bar {
+  public:
+    explicit Bar(const PanelProgram& panel, const QString& feed) {
+        panel.start(process_, {QStringLiteral("--format"), QStringLiteral("{temperature} {place}"),
+                               QStringLiteral("--follow"), QStringLiteral("--feed"), feed});
+    }
+    ~Bar() { process_.kill(); }
+    QByteArray nextLine() {
+        EXPECT_TRUE(waitUntil([this] {
+            process_.waitForReadyRead(1);
+            return process_.canReadLine();
+        }));
+        return process_.readLine().trimmed();
+    }
+    void terminate() { process_.terminate(); }
+    void goAway() { process_.closeReadChannel(QProcess::StandardOutput); }
+    [[nodiscard]] bool hasEndedWell() {
+        return waitUntil([this] { return process_.state() == QProcess::NotRunning; }) &&
+               process_.exitStatus() == QProcess::NormalExit && process_.exitCode() == 0;
+    }
+    [[nodiscard]] bool saysNothingMore() {
+        process_.waitForReadyRead(1);
+        return process_.bytesAvailable() == 0;
+    }
+
+  private:
+    QProcess process_;
+};
+
+TEST_F(PanelProgramTest, FollowsWhatABarShows) {
+    panel_.choosePlace();
+    Bar bar(panel_, server_.baseAddress());
+    EXPECT_EQ(bar.nextLine(), "21°C Berlin") << "the first line waits for the weather";
+    EXPECT_EQ(QProcess::execute(
+                  QStringLiteral(PROGRAM_DIR "/zephyrix"),
+                  {QStringLiteral("units"), QStringLiteral("temperature"), QStringLiteral("F")}),
+              0);
+    EXPECT_EQ(bar.nextLine(), "70°F Berlin");
+    EXPECT_EQ(server_.requestLines().size(), 1) << "units need no fetch";
+    // A unit that the line does not show changes nothing, another place fetches.
+    EXPECT_EQ(
+        QProcess::execute(QStringLiteral(PROGRAM_DIR "/zephyrix"),
+                          {QStringLiteral("units"), QStringLiteral("wind"), QStringLiteral("m/s")}),
+        0);
+    EXPECT_EQ(
+        QProcess::execute(
+            QStringLiteral(PROGRAM_DIR "/zephyrix"),
+            {QStringLiteral("place"), QStringLiteral("set"), QStringLiteral("--uid"),
+             QStringLiteral("77"), QStringLiteral("--name"), QStringLiteral("Nome"),
+             QStringLiteral("--lat"), QStringLiteral("64.5"), QStringLiteral("--lon"),
+             QStringLiteral("-165.4"), QStringLiteral("--zone"), QStringLiteral("America/Nome")}),
+        0);
+    EXPECT_EQ(bar.nextLine(), "70°F Nome");
+    EXPECT_TRUE(bar.saysNothingMore());
+    bar.terminate();
+    EXPECT_TRUE(bar.hasEndedWell());
+}
+
+TEST_F(PanelProgramTest, EndsWhenTheBarGoesAway) {
+    panel_.choosePlace();
+    Bar bar(panel_, server_.baseAddress());
+    bar.nextLine();
+    bar.goAway();
+    EXPECT_TRUE(bar.hasEndedWell());
+    EXPECT_FALSE(panel_.setting(QStringLiteral("showingAll")).isValid())
+        << "the bar does not speak for the panel";
+}
+
 }  // namespace
 }  // namespace zephyrix

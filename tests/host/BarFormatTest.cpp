@@ -1,0 +1,157 @@
+#include <memory>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "cells/Registration.h"
+#include "foundation/Clock.h"
+#include "host/BarFormat.h"
+#include "host/BarSymbol.h"
+#include "support/Documents.h"
+#include "support/TestHome.h"
+
+namespace zephyrix {
+namespace {
+
+using namespace zephyrix::testing;
+
+const Instant noon = Instant::fromSecondsSince1970(1433152800);  // 2015-06-01 12:00 in Berlin
+
+class BarFormatTest : public ::testing::Test {
+  protected:
+    BarFormatTest() {
+        qputenv("XDG_CONFIG_HOME", freshFolder().toUtf8());
+        registerCells();
+    }
+    static void choosePlace(const QString& name) {
+        QVariantMap place = LocationResult::defaultSearchResult().asDict();
+        place.insert(QStringLiteral("name"), name);
+        UserDefaults::suite(QStringLiteral("group.Zephyrix"))
+            ->set(QStringLiteral("location"), place);
+    }
+    TodayViewController& show(const std::optional<QVariantMap>& changes) {
+        controller_ = std::make_unique<TodayViewController>([](const auto&) {});
+        if (changes) {
+            auto document =
+                FeedAnswer::fromBody(feedDocument(14.0, noon), Number(18228265)).document;
+            QVariantMap observation = document.obs->asDict();
+            for (auto change = changes->begin(); change != changes->end(); ++change)
+                observation.insert(change.key(), change.value());
+            document.obs = Obs(observation);
+            controller_->setLastWeatherData(document);
+        }
+        controller_->tableView()->resize(440, 200);
+        controller_->tableView()->layoutIfNeeded();
+        return *controller_;
+    }
+    QString line(const char* format) {
+        return BarFormat(QString::fromUtf8(format)).line(*controller_);
+    }
+    QJsonObject waybar() { return QJsonDocument::fromJson(line("waybar").toUtf8()).object(); }
+    static QStringList classes(const QJsonObject& object) {
+        return object[QLatin1String("class")].toVariant().toStringList();
+    }
+
+    Instant now_ = noon;
+    ReplacedClock clock_{[this] { return now_; }};
+    std::unique_ptr<TodayViewController> controller_;
+};
+
+TEST_F(BarFormatTest, FieldsAreWhatTheRowShows) {
+    choosePlace(QStringLiteral("Neu\nStadt"));
+    show(QVariantMap());
+    EXPECT_EQ(line("{temperature}|{wind}|{direction}|{precipitation}|{pressure}|{source}"),
+              QStringLiteral("14°C|3 Bft|WSW|0.2 mm|1013.2 hPa|a test"));
+    EXPECT_EQ(line(" {place}: {{{symbol}}} "), QStringLiteral("Neu Stadt: {\u26C5}"))
+        << "one line, and doubled braces are braces";
+    EXPECT_EQ(line("polybar"), QStringLiteral("\u26C5 14°C"));
+    EXPECT_EQ(line(""), QString());
+}
+
+TEST_F(BarFormatTest, WhatIsWrongIsNamed) {
+    const auto fault = [](const char* format) {
+        try {
+            const BarFormat taken(QString::fromUtf8(format));
+            return QStringLiteral("taken");
+        } catch (const BarFormat::Error& error) {
+            return error.text();
+        }
+    };
+    EXPECT_THAT(fault("{symbol} {humidity}").toStdString(),
+                ::testing::AllOf(::testing::HasSubstr("{humidity}"),
+                                 ::testing::HasSubstr("{temperature}")));
+    for (const char* format : {"{", "}", "{symbol", "{symbol}}", "{}", "{{symbol}"})
+        EXPECT_NE(fault(format), QStringLiteral("taken")) << format;
+}
+
+TEST_F(BarFormatTest, WaybarGetsMarkupAndClasses) {
+    choosePlace(QStringLiteral("Fish & Chips"));
+    show(QVariantMap{{QStringLiteral("rrr"), 0.05}, {QStringLiteral("symbol"), 2520200}});
+    QJsonObject object = waybar();
+    EXPECT_EQ(object[QLatin1String("text")], QStringLiteral("\U0001F327 14°C"));
+    EXPECT_THAT(object[QLatin1String("tooltip")].toString().toStdString(),
+                ::testing::AllOf(::testing::HasSubstr("Fish &amp; Chips"),
+                                 ::testing::HasSubstr("&lt;0.1 mm")));
+    EXPECT_EQ(classes(object), QStringList({QStringLiteral("rain"), QStringLiteral("night")}));
+    EXPECT_FALSE(line("waybar").contains(u'\n'));
+
+    now_ = noon.addingSeconds(7200.0);
+    EXPECT_EQ(classes(waybar()).last(), QStringLiteral("old"));
+    show(std::nullopt);
+    object = waybar();
+    EXPECT_EQ(object[QLatin1String("text")], QString());
+    EXPECT_EQ(classes(object), QStringList(QStringLiteral("waiting")));
+}
+
+TEST_F(BarFormatTest, WithoutAPlaceTheTooltipAsksForOne) {
+    show(std::nullopt);
+    const QJsonObject object = waybar();
+    EXPECT_EQ(classes(object), QStringList(QStringLiteral("no-place")));
+    EXPECT_THAT(object[QLatin1String("tooltip")].toString().toStdString(),
+                ::testing::HasSubstr("Please open Zephyrix"));
+    EXPECT_EQ(line("{symbol} {temperature}"), QString());
+}
+
+struct SymbolCase {
+    long long code;
+    QString glyph;
+    const char* kind;
+};
+
+TEST(BarSymbol, SaysInOneSignWhatTheDigitsMean) {
+    const std::vector<SymbolCase> cases = {
+        {1000000, QStringLiteral("\u2600"), "clear"},
+        {2000000, QStringLiteral("\U0001F319"), "clear"},
+        {1100000, QStringLiteral("\U0001F324"), "clouds"},
+        {1800000, QStringLiteral("\u26C5"), "clouds"},
+        {1600000, QStringLiteral("\U0001F325"), "clouds"},
+        {2400000, QStringLiteral("\U0001F319"), "clouds"},
+        {2500000, QStringLiteral("\u2601"), "clouds"},
+        {600000, QStringLiteral("\u2601"), "clouds"},
+        {1121100, QStringLiteral("\U0001F326"), "rain"},
+        {2121100, QStringLiteral("\U0001F327"), "rain"},
+        {520200, QStringLiteral("\U0001F327"), "rain"},
+        {510100, QStringLiteral("\U0001F327"), "drizzle"},
+        {240200, QStringLiteral("\U0001F328"), "snow"},
+        {70300, QStringLiteral("\U0001F32B"), "fog"},
+        {1221230, QStringLiteral("\u26C8"), "thunderstorm"},
+        {1593200, QStringLiteral("\U0001F32C"), "wind"},
+        {99910, QStringLiteral("\U0001F329"), "thunderstorm"},
+        {9999992, QStringLiteral("\u26A0"), "warning"},
+        {0, {}, "none"},
+        {-9999, {}, "none"},
+        {900000, {}, "none"},
+    };
+    for (const SymbolCase& row : cases) {
+        const BarSymbol symbol = barSymbol(Number(row.code));
+        EXPECT_EQ(symbol.glyph, row.glyph) << row.code;
+        EXPECT_EQ(symbol.kind, QLatin1String(row.kind)) << row.code;
+        EXPECT_EQ(symbol.isNight, row.code >= 2000000 && row.code < 3000000) << row.code;
+    }
+}
+
+}  // namespace
+}  // namespace zephyrix
