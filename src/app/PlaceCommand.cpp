@@ -1,15 +1,13 @@
 #include "PlaceCommand.h"
 
-#include <array>
-#include <cmath>
-
-#include <QCommandLineParser>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "PlaceArguments.h"
 #include "SharedSettings.h"
-#include "foundation/TimeZone.h"
-#include "model/LocationResult.h"
+#include "foundation/Bundle.h"
+#include "places/PlaceList.h"
 
 namespace zephyrix {
 
@@ -17,91 +15,7 @@ namespace {
 
 const QString locationKey = QStringLiteral("location");
 
-struct PlaceOption {
-    const char* name;
-    bool required;
-};
-
-constexpr std::array<PlaceOption, 7> placeOptions = {{
-    {"uid", true},
-    {"name", true},
-    {"lat", true},
-    {"lon", true},
-    {"zone", true},
-    {"country-name", false},
-    {"province-name", false},
-}};
-
-/// The values of the options of "place set", checked for being there and nothing else.
-class SetArguments {
-  public:
-    explicit SetArguments(const QStringList& arguments) {
-        for (const PlaceOption& option : placeOptions)
-            parser_.addOption({QString::fromLatin1(option.name), {}, QStringLiteral("value")});
-        if (!parser_.parse(QStringList(QString()) + arguments))
-            throw CommandError::usage(parser_.errorText());
-        if (!parser_.positionalArguments().isEmpty())
-            throw CommandError::usage(QStringLiteral("what does \"%1\" mean?")
-                                          .arg(parser_.positionalArguments().constFirst()));
-        for (const PlaceOption& option : placeOptions)
-            if (option.required && !parser_.isSet(QString::fromLatin1(option.name)))
-                throw CommandError::usage(
-                    QStringLiteral("--%1 is missing").arg(QLatin1String(option.name)));
-    }
-
-    [[nodiscard]] QString text(const char* option) const {
-        return parser_.value(QString::fromLatin1(option)).simplified();
-    }
-
-    [[nodiscard]] std::optional<QString> textIfGiven(const char* option) const {
-        const QString value = text(option);
-        return value.isEmpty() ? std::nullopt : std::optional(value);
-    }
-
-    [[nodiscard]] double degrees(const char* option, double most) const {
-        bool isNumber = false;
-        const double value = text(option).toDouble(&isNumber);
-        if (!isNumber || !(std::fabs(value) <= most))
-            throw CommandError::usage(QStringLiteral("--%1: \"%2\" is no number from -%3 to %3")
-                                          .arg(QLatin1String(option), text(option))
-                                          .arg(most));
-        return value;
-    }
-
-  private:
-    QCommandLineParser parser_;
-};
-
-Number uidFrom(const QString& text) {
-    bool isNumber = false;
-    const qlonglong uid = text.toLongLong(&isNumber);
-    if (!isNumber || uid < 1)
-        throw CommandError::usage(
-            QStringLiteral("--uid: \"%1\" is no whole number from 1").arg(text));
-    return Number(uid);
-}
-
-LocationResult placeFrom(const SetArguments& arguments) {
-    LocationResult place;
-    place.setUid(uidFrom(arguments.text("uid")));
-    place.setName(arguments.text("name"));
-    place.setLatitude(Number(arguments.degrees("lat", 90.0)));
-    place.setLongitude(Number(arguments.degrees("lon", 180.0)));
-    place.setTimezone(arguments.text("zone"));
-    place.setCountryName(arguments.textIfGiven("country-name"));
-    place.setProvinceName(arguments.textIfGiven("province-name"));
-    place.setLocationType(Number(0));
-    if (place.name()->isEmpty())
-        throw CommandError::usage(QStringLiteral("--name must not be empty"));
-    if (!timeZoneWithName(*place.timezone()).isValid())
-        throw CommandError::usage(
-            QStringLiteral("--zone: \"%1\" is no time zone; a zone is named like Europe/Berlin")
-                .arg(*place.timezone()));
-    if (!place.checkValidity())
-        throw CommandError::usage(
-            QStringLiteral("a place at exactly 0 degrees north, 0 degrees east counts as none"));
-    return place;
-}
+constexpr std::size_t mostFound = 20;
 
 void store(const LocationResult& place) {
     const auto settings = openSharedSettings();
@@ -113,7 +27,7 @@ QVariantMap storedDictionary() {
     const auto dictionary = openSharedSettings()->dictionary(locationKey);
     if (!dictionary)
         throw CommandError::failure(
-            QStringLiteral("no place is chosen; try \"zephyrix place default\""));
+            QStringLiteral("no place is chosen; try \"zephyrix place search\""));
     if (!LocationResult(*dictionary).checkValidity())
         throw CommandError::failure(
             QStringLiteral("the stored place is not usable; choose it again"));
@@ -133,16 +47,51 @@ void show(const QStringList& arguments, QTextStream& out) {
     out << QJsonDocument(QJsonObject::fromVariantMap(storedDictionary())).toJson();
 }
 
+/// uid and name, as "place set" takes the one and a person knows the other.
+void printFound(QTextStream& out, const std::vector<ListedPlace>& places) {
+    for (const ListedPlace& place : places) {
+        out << QString::number(place.uid).leftJustified(10) << place.name;
+        if (const QString area = areaOf(place); !area.isEmpty())
+            out << ", " << area;
+        out << '\n';
+    }
+}
+
+void printFoundJson(QTextStream& out, const std::vector<ListedPlace>& places) {
+    QJsonArray array;
+    for (const ListedPlace& place : places)
+        array << QJsonObject::fromVariantMap(locationOf(place).asDict());
+    out << QJsonDocument(array).toJson();
+}
+
+void search(QStringList words, QTextStream& out) {
+    const bool asJson = words.removeAll(QStringLiteral("--json")) > 0;
+    if (words.isEmpty())
+        throw CommandError::usage(QStringLiteral("place search takes a name"));
+    const QString text = words.join(QLatin1Char(' '));
+    const auto found =
+        PlaceList(Bundle::main().preferredLocalizations().first()).search(text, mostFound);
+    if (found.empty())
+        throw CommandError::failure(
+            QStringLiteral("the list has no place \"%1\"; for one that is in no list try"
+                           " \"zephyrix place set --lat DEGREES --lon DEGREES --name TEXT\"")
+                .arg(text));
+    return asJson ? printFoundJson(out, found) : printFound(out, found);
+}
+
 void run(const QStringList& arguments, QTextStream& out) {
     const QString verb = arguments.value(0);
     if (verb == QLatin1String("show"))
         return show(arguments.mid(1), out);
+    if (verb == QLatin1String("search"))
+        return search(arguments.mid(1), out);
     if (verb == QLatin1String("set"))
-        store(placeFrom(SetArguments(arguments.mid(1))));
+        store(placeFromArguments(arguments.mid(1)));
     else if (verb == QLatin1String("default") && arguments.size() == 1)
         store(LocationResult::defaultSearchResult());
     else
-        throw CommandError::usage(QStringLiteral("place must be followed by default, set or show"));
+        throw CommandError::usage(
+            QStringLiteral("place must be followed by search, set, default or show"));
     printPlace(out);
 }
 
@@ -161,11 +110,17 @@ void printPlace(QTextStream& out) {
 
 const Command placeCommand = {
     "place",
-    "  place default                 the weather of Berlin\n"
-    "  place set --uid N --name TEXT --lat DEGREES --lon DEGREES --zone ZONE\n"
+    "  place search TEXT [--json]    the places of this name, with their uids; without accents "
+    "and\n"
+    "                                in any of nine languages, with a country or a part of it\n"
+    "                                where there are several: \"paris texas\"\n"
+    "                                Places: GeoNames (geonames.org), CC BY 4.0\n"
+    "  place set UID                 the weather of this place of the list\n"
+    "  place set --lat DEGREES --lon DEGREES --name TEXT [--zone ZONE] [--uid N]\n"
     "            [--country-name TEXT] [--province-name TEXT]\n"
-    "                                the weather of this place: its id in the weather service,\n"
-    "                                north and east positive, a zone such as Europe/Berlin\n"
+    "                                the weather of any place: north and east positive, a zone\n"
+    "                                such as Europe/Berlin, its id if the feed has one of its own\n"
+    "  place default                 the weather of Berlin\n"
     "  place show [--json]           which place it is\n",
     run};
 

@@ -8,6 +8,7 @@
 
 #include "foundation/UserDefaults.h"
 #include "model/LocationResult.h"
+#include "places/CoordinateUid.h"
 #include "support/TestHome.h"
 
 namespace zephyrix {
@@ -75,6 +76,28 @@ TEST_F(CommandLine, TheDefaultPlaceIsBerlinAndKeepsTheUnits) {
     EXPECT_EQ(stored("wind"), QVariant(2LL));
 }
 
+TEST_F(CommandLine, APlaceIsFoundWithoutAccentsAndSetByItsUid) {
+    const Outcome found = run("place search tromso");
+    ASSERT_EQ(found.exitCode, 0);
+    ASSERT_TRUE(found.out.startsWith("3133895   Tromsø, Troms og Finnmark, Norway\n"));
+    ASSERT_EQ(run("place set 3133895").exitCode, 0);
+    EXPECT_EQ(LocationResult(stored("location").toMap()).objTimeZone().id(), "Europe/Oslo");
+    EXPECT_TRUE(run("place search --json paris texas").out.contains("America/Chicago"));
+    const Outcome none = run("place search \"xqzzy; DROP TABLE place\"");
+    EXPECT_EQ(none.exitCode, 1);
+    EXPECT_TRUE(none.err.contains("place set --lat")) << none.err.toStdString();
+}
+
+TEST_F(CommandLine, APlaceInNoListIsItsCoordinatesAndHasTheZoneOfItsNeighbourhood) {
+    ASSERT_EQ(run("place set --lat -54.7 --lon=-68.2 --name \"My hut\"").exitCode, 0);
+    const LocationResult hut(stored("location").toMap());
+    EXPECT_EQ(hut.objTimeZone().id(), "America/Argentina/Ushuaia");
+    const auto where = coordinateOfUid(hut.uid()->integerValue());
+    ASSERT_TRUE(where);
+    EXPECT_NEAR(where->latitude, -54.7, 1e-4);
+    EXPECT_NEAR(where->longitude, -68.2, 1e-4);
+}
+
 TEST_F(CommandLine, UnitsAreTakenAsPeopleWriteThem) {
     struct Case {
         const char* line;
@@ -104,15 +127,19 @@ TEST_F(CommandLine, BadInputIsToldAndLeavesTheStoreAsItWas) {
     for (const Case& c : {
              Case{"", "which command"},
              Case{"palce show", "palce"},
-             Case{"place", "default, set or show"},
-             Case{"place default now", "default, set or show"},
-             Case{"place set --uid 7 --name A --lat 1 --lon 2", "--zone is missing"},
+             Case{"place", "search, set, default or show"},
+             Case{"place default now", "search, set, default or show"},
+             Case{"place set --uid 7 --lat 1 --lon 2 --zone UTC", "--name is missing"},
+             Case{"place set 7", "no place 7"},
+             Case{"place set Tromso", "Tromso"},
+             Case{"place set", "is missing"},
+             Case{"place search", "takes a name"},
              Case{"place set --uid 7 --name A --lat 1 --lon 2 --zone Europe/Atlantis", "Atlantis"},
              Case{"place set --uid 7 --name A --lat 90.01 --lon 2 --zone UTC", "90.01"},
              Case{"place set --uid 7 --name A --lat nan --lon 2 --zone UTC", "nan"},
              Case{"place set --uid 7 --name A --lat 5 --lon -181 --zone UTC", "-181"},
              Case{"place set --uid 7 --name A --lat 52,5 --lon 13 --zone UTC", "52,5"},
-             Case{"place set --uid 0 --name A --lat 1 --lon 2 --zone UTC", "--uid"},
+             Case{"place set --uid 0 --name A --lat 1 --lon 2 --zone UTC", "no whole number"},
              Case{"place set --uid 9223372036854775808 --name A --lat 1 --lon 2 --zone UTC", "uid"},
              Case{"place set --uid 7 --name \" \" --lat 1 --lon 2 --zone UTC", "--name"},
              Case{"place set --uid 7 --name A --lat 0 --lon 0 --zone UTC", "counts as none"},
