@@ -7,6 +7,7 @@
 #include "foundation/TimeZone.h"
 #include "foundation/UserDefaults.h"
 #include "model/LocationResult.h"
+#include "places/CoordinateUid.h"
 
 namespace zephyrix {
 
@@ -58,7 +59,20 @@ std::optional<Place> PlaceDirectory::placeOf(std::int64_t id) const {
         return place;
     if (auto place = placeFrom(LocationResult::defaultSearchResult(), id))
         return place;
+    if (auto place = listedPlace(id))
+        return place;
     return unknown_ == Unknown::Invented ? std::optional(inventedPlace(id)) : std::nullopt;
+}
+
+std::optional<Place> PlaceDirectory::listedPlace(std::int64_t id) const {
+    const std::lock_guard lock(listMutex_);
+    if (!list_)
+        list_ = std::make_unique<PlaceList>(QStringLiteral("en"));
+    if (const auto where = coordinateOfUid(id))
+        return Place{id, where->latitude, where->longitude,
+                     timeZoneWithName(list_->zoneAt(*where))};
+    const auto place = list_->place(id);
+    return place ? placeFrom(locationOf(*place), id) : std::nullopt;
 }
 
 }  // namespace zephyrix

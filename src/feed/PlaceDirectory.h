@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
+#include <mutex>
 #include <optional>
 
+#include "places/PlaceList.h"
 #include "weather/Place.h"
 
 namespace zephyrix {
@@ -12,7 +15,9 @@ namespace zephyrix {
 /// 1. the place that was given for every id, if one was (--latitude, --longitude, --zone);
 /// 2. the place that the user has chosen in `zephyrix`, for its own id;
 /// 3. the default place, Berlin, for its id;
-/// 4. where places may be invented, a place in the inhabited latitudes, always the same for an id.
+/// 4. the id itself, where it is made of coordinates;
+/// 5. the list of places that ships with the programs;
+/// 6. where places may be invented, a place in the inhabited latitudes, always the same for an id.
 ///
 /// A place without a zone that the system knows has the time of its longitude, in whole hours.
 /// May be asked on any thread.
@@ -27,8 +32,12 @@ class PlaceDirectory {
     [[nodiscard]] std::optional<Place> placeOf(std::int64_t id) const;
 
   private:
+    [[nodiscard]] std::optional<Place> listedPlace(std::int64_t id) const;
+
     std::optional<Place> everyPlace_;
     Unknown unknown_;
+    mutable std::mutex listMutex_;
+    mutable std::unique_ptr<PlaceList> list_;  // opened when it is first asked
 };
 
 /// The zone with the time of a longitude in whole hours from UTC.
