@@ -5,6 +5,7 @@
 #include <QFontMetrics>
 
 #include "foundation/Log.h"
+#include "symbols/QKWeatherSymbols.h"
 
 namespace zephyrix {
 
@@ -14,7 +15,8 @@ LivePanel::LivePanel(WeatherFeed::BaseAddress feed, ExtensionContext& context, c
       controller_(std::move(feed)),
       view_(controller_),
       schedule_(controller_, std::move(wakes)),
-      place_(storedPlace()) {
+      place_(storedPlace()),
+      symbolSet_(storedSymbols()) {
     controller_.setExtensionContext(&context);
     if (expanded)
         controller_.setShowingAll(true);
@@ -24,6 +26,8 @@ LivePanel::LivePanel(WeatherFeed::BaseAddress feed, ExtensionContext& context, c
         logLine(QStringLiteral("no font is installed: texts cannot be read"));
     connect(&controller_.sharedDefaults(), &UserDefaults::changedByOthers, this,
             &LivePanel::takeNews);
+    connect(&UserDefaults::standard(), &UserDefaults::changedByOthers, this,
+            &LivePanel::takeSymbols);
 }
 
 void LivePanel::appear() {
@@ -49,10 +53,29 @@ void LivePanel::takeNews() {
         Q_EMIT placeChanged();
         return;
     }
+    layOutRows();
+    Q_EMIT unitsChanged();
+}
+
+std::int64_t LivePanel::storedSymbols() {
+    return UserDefaults::standard().integer(QStringLiteral("symbolSet"));
+}
+
+void LivePanel::takeSymbols() {
+    const std::int64_t set = storedSymbols();
+    if (std::exchange(symbolSet_, set) == set)
+        return;
+    if (!QKWeatherSymbols::chooseSet(set))
+        QKWeatherSymbols::chooseSet(0);  // as it is with a set that is not installed
+    QKWeatherSymbols::clearCache();
+    layOutRows();
+    Q_EMIT unitsChanged();
+}
+
+void LivePanel::layOutRows() {
     for (int row = 0; row < controller_.numberOfRowsInSection(0); ++row)
         if (TableCell* cell = controller_.tableView()->cellForRow({row, 0}))
             cell->setNeedsLayout();
-    Q_EMIT unitsChanged();
 }
 
 }  // namespace zephyrix

@@ -40,18 +40,22 @@ class LivePanel : public QObject {
   Q_SIGNALS:
     /// Another program chose another place, or changed this one, or none is chosen any more.
     void placeChanged();
-    /// Another program chose other units; they show with the next layout pass.
+    /// Another program chose other units or symbols; they show with the next layout pass.
     void unitsChanged();
 
   private:
     [[nodiscard]] QVariant storedPlace() const;
+    [[nodiscard]] static std::int64_t storedSymbols();
     void takeNews();
+    void takeSymbols();
+    void layOutRows();
 
     StartGuard guard_;
     TodayViewController controller_;
     PanelView view_;
     AppearanceSchedule schedule_;
     QVariant place_;
+    std::int64_t symbolSet_;
     bool inSight_ = false;
 };
 

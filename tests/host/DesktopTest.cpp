@@ -1,5 +1,6 @@
 // The programs as a user has them on a desktop: a display, a bus with a tray, a feed.
 #include <memory>
+#include <utility>
 
 #include <QDir>
 #include <QFile>
@@ -144,6 +145,22 @@ TEST_F(DesktopTest, PlaceAndUnitsOfAnotherProgramShowAtOnce) {
     EXPECT_TRUE(waitUntil([&] { return server_.requestLines().size() == 2; }));
     EXPECT_THAT(server_.requestLines().constLast().toStdString(), HasSubstr("lid=77&"));
     EXPECT_EQ(display().window()->id, window.id) << "it is still the same window";
+}
+
+TEST_F(DesktopTest, OtherSymbolsThatAreChosenShowAtOnceAndAreNotThoseOfTheCache) {
+    startWithFeed({toWindow});
+    const auto window = windowWithSource("a test");
+    QByteArray colour;
+    ASSERT_TRUE(waitUntil([&] {
+        const QByteArray last = std::exchange(colour, display().picture(window));
+        return !last.isEmpty() && last == colour && server_.requestLines().size() == 1;
+    }));
+    panel_.setSetting(QStringLiteral("symbolSet"), 1);
+    EXPECT_TRUE(waitUntil([&] { return display().picture(window) != colour; }));
+    panel_.setSetting(QStringLiteral("symbolSet"), 0);
+    EXPECT_TRUE(waitUntil([&] { return display().picture(window) == colour; }));
+    EXPECT_EQ(server_.requestLines().size(), 1) << "symbols need no fetch";
+    end();
 }
 
 TEST_F(DesktopTest, RowOpensItsAddress) {
