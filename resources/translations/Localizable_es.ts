@@ -557,5 +557,180 @@
         <extracomment>In front of the units to choose from.</extracomment>
         <translation>Temperatura</translation>
     </message>
+    <message>
+        <source>Search for a place</source>
+        <extracomment>In the window of the main application. In the empty field in which a place&apos;s name is typed.</extracomment>
+        <translation>Buscar un lugar</translation>
+    </message>
+    <message>
+        <source>Places found</source>
+        <extracomment>In the window of the main application. Spoken: the list below the search field.</extracomment>
+        <translation>Lugares encontrados</translation>
+    </message>
+    <message>
+        <source>No place of this name</source>
+        <extracomment>In the window of the main application. In the list below the search field.</extracomment>
+        <translation>Ningún lugar con este nombre</translation>
+    </message>
+    <message>
+        <source>No place is chosen</source>
+        <extracomment>In the window of the main application. In place of the chosen place&apos;s name.</extracomment>
+        <translation>Ningún lugar elegido</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <extracomment>In the window of the main application. Caption in front of latitude and longitude.</extracomment>
+        <translation>Coordenadas</translation>
+    </message>
+    <message>
+        <source>Local time</source>
+        <extracomment>In the window of the main application. Caption in front of the clock time at the place.</extracomment>
+        <translation>Hora local</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <extracomment>In the window of the main application. Caption in front of the times of sunrise and sunset.</extracomment>
+        <translation>Sol</translation>
+    </message>
+    <message>
+        <source>Moon</source>
+        <extracomment>In the window of the main application. Caption in front of the moon&apos;s phase.</extracomment>
+        <translation>Luna</translation>
+    </message>
+    <message>
+        <source>rises %1</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Sun&quot;; %1 is a clock time.</extracomment>
+        <translation>sale %1</translation>
+    </message>
+    <message>
+        <source>sets %1</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Sun&quot;; %1 is a clock time.</extracomment>
+        <translation>se pone %1</translation>
+    </message>
+    <message>
+        <source>does not set (polar day)</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Sun&quot;.</extracomment>
+        <translation>no se pone (día polar)</translation>
+    </message>
+    <message>
+        <source>does not rise (polar night)</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Sun&quot;.</extracomment>
+        <translation>no sale (noche polar)</translation>
+    </message>
+    <message>
+        <source>new moon</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>luna nueva</translation>
+    </message>
+    <message>
+        <source>waxing crescent</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>luna creciente</translation>
+    </message>
+    <message>
+        <source>first quarter</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>cuarto creciente</translation>
+    </message>
+    <message>
+        <source>waxing gibbous</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>gibosa creciente</translation>
+    </message>
+    <message>
+        <source>full moon</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>luna llena</translation>
+    </message>
+    <message>
+        <source>waning gibbous</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>gibosa menguante</translation>
+    </message>
+    <message>
+        <source>last quarter</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>cuarto menguante</translation>
+    </message>
+    <message>
+        <source>waning crescent</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>luna menguante</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <extracomment>In the window of the main application. Heading above the units to choose from.</extracomment>
+        <translation>Unidades</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <extracomment>In the window of the main application. Heading above the sets of weather symbols.</extracomment>
+        <translation>Símbolos</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <extracomment>In the window of the main application. Heading above the state of the weather data.</extracomment>
+        <translation>Tiempo</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <extracomment>In the window of the main application. A set of weather symbols: in full colour.</extracomment>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <extracomment>In the window of the main application. A set of weather symbols: line drawings.</extracomment>
+        <translation>Líneas</translation>
+    </message>
+    <message>
+        <source>Usual in %1: %2</source>
+        <extracomment>In the window of the main application. A button that chooses these units. %1 is a country, %2 are units. The sentence must bear any country&apos;s name.</extracomment>
+        <translation>Habituales (%1): %2</translation>
+    </message>
+    <message>
+        <source>Usual units: %1</source>
+        <extracomment>In the window of the main application. A button that chooses these units.</extracomment>
+        <translation>Unidades habituales: %1</translation>
+    </message>
+    <message>
+        <source>Show the panel at login</source>
+        <extracomment>In the window of the main application. A box to tick.</extracomment>
+        <translation>Mostrar el panel al iniciar sesión</translation>
+    </message>
+    <message>
+        <source>No weather of this place yet: open the panel.</source>
+        <extracomment>In the window of the main application. The state of the weather data.</extracomment>
+        <translation>Aún no hay tiempo de este lugar: abra el panel.</translation>
+    </message>
+    <message>
+        <source>Updated %1.</source>
+        <extracomment>In the window of the main application. The state of the weather data; %1 is &quot;just now&quot;, &quot;5 min ago&quot; or the like.</extracomment>
+        <translation>Actualizado %1.</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <extracomment>In the window of the main application. In place of %1 of &quot;Updated %1.&quot;</extracomment>
+        <translation>ahora mismo</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <extracomment>In the window of the main application. In place of %1 of &quot;Updated %1.&quot;; a number of minutes, 2 or more.</extracomment>
+        <translation>hace %1 min</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <extracomment>In the window of the main application. In place of %1 of &quot;Updated %1.&quot;; a number of days, 2 or more.</extracomment>
+        <translation>hace %1 días</translation>
+    </message>
+    <message>
+        <source>The panel was closed since, or the feed could not be reached.</source>
+        <extracomment>In the window of the main application. Behind &quot;Updated 3 h ago.&quot;: why the data is old.</extracomment>
+        <translation>Desde entonces el panel estaba cerrado o el servicio no respondía.</translation>
+    </message>
+    <message>
+        <source>Places: %1</source>
+        <extracomment>In the window of the main application. Who made the list of places; %1 is a name and a licence.</extracomment>
+        <translation>Lugares: %1</translation>
+    </message>
 </context>
 </TS>

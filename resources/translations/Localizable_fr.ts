@@ -557,5 +557,180 @@
         <extracomment>In front of the units to choose from.</extracomment>
         <translation>Température</translation>
     </message>
+    <message>
+        <source>Search for a place</source>
+        <extracomment>In the window of the main application. In the empty field in which a place&apos;s name is typed.</extracomment>
+        <translation>Rechercher un lieu</translation>
+    </message>
+    <message>
+        <source>Places found</source>
+        <extracomment>In the window of the main application. Spoken: the list below the search field.</extracomment>
+        <translation>Lieux trouvés</translation>
+    </message>
+    <message>
+        <source>No place of this name</source>
+        <extracomment>In the window of the main application. In the list below the search field.</extracomment>
+        <translation>Aucun lieu de ce nom</translation>
+    </message>
+    <message>
+        <source>No place is chosen</source>
+        <extracomment>In the window of the main application. In place of the chosen place&apos;s name.</extracomment>
+        <translation>Aucun lieu choisi</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <extracomment>In the window of the main application. Caption in front of latitude and longitude.</extracomment>
+        <translation>Coordonnées</translation>
+    </message>
+    <message>
+        <source>Local time</source>
+        <extracomment>In the window of the main application. Caption in front of the clock time at the place.</extracomment>
+        <translation>Heure locale</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <extracomment>In the window of the main application. Caption in front of the times of sunrise and sunset.</extracomment>
+        <translation>Soleil</translation>
+    </message>
+    <message>
+        <source>Moon</source>
+        <extracomment>In the window of the main application. Caption in front of the moon&apos;s phase.</extracomment>
+        <translation>Lune</translation>
+    </message>
+    <message>
+        <source>rises %1</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Sun&quot;; %1 is a clock time.</extracomment>
+        <translation>lever %1</translation>
+    </message>
+    <message>
+        <source>sets %1</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Sun&quot;; %1 is a clock time.</extracomment>
+        <translation>coucher %1</translation>
+    </message>
+    <message>
+        <source>does not set (polar day)</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Sun&quot;.</extracomment>
+        <translation>ne se couche pas (jour polaire)</translation>
+    </message>
+    <message>
+        <source>does not rise (polar night)</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Sun&quot;.</extracomment>
+        <translation>ne se lève pas (nuit polaire)</translation>
+    </message>
+    <message>
+        <source>new moon</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>nouvelle lune</translation>
+    </message>
+    <message>
+        <source>waxing crescent</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>premier croissant</translation>
+    </message>
+    <message>
+        <source>first quarter</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>premier quartier</translation>
+    </message>
+    <message>
+        <source>waxing gibbous</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>gibbeuse croissante</translation>
+    </message>
+    <message>
+        <source>full moon</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>pleine lune</translation>
+    </message>
+    <message>
+        <source>waning gibbous</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>gibbeuse décroissante</translation>
+    </message>
+    <message>
+        <source>last quarter</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>dernier quartier</translation>
+    </message>
+    <message>
+        <source>waning crescent</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>dernier croissant</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <extracomment>In the window of the main application. Heading above the units to choose from.</extracomment>
+        <translation>Unités</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <extracomment>In the window of the main application. Heading above the sets of weather symbols.</extracomment>
+        <translation>Symboles</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <extracomment>In the window of the main application. Heading above the state of the weather data.</extracomment>
+        <translation>Météo</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <extracomment>In the window of the main application. A set of weather symbols: in full colour.</extracomment>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <extracomment>In the window of the main application. A set of weather symbols: line drawings.</extracomment>
+        <translation>Traits</translation>
+    </message>
+    <message>
+        <source>Usual in %1: %2</source>
+        <extracomment>In the window of the main application. A button that chooses these units. %1 is a country, %2 are units. The sentence must bear any country&apos;s name.</extracomment>
+        <translation>Usuelles (%1) : %2</translation>
+    </message>
+    <message>
+        <source>Usual units: %1</source>
+        <extracomment>In the window of the main application. A button that chooses these units.</extracomment>
+        <translation>Unités usuelles : %1</translation>
+    </message>
+    <message>
+        <source>Show the panel at login</source>
+        <extracomment>In the window of the main application. A box to tick.</extracomment>
+        <translation>Afficher le panneau à la connexion</translation>
+    </message>
+    <message>
+        <source>No weather of this place yet: open the panel.</source>
+        <extracomment>In the window of the main application. The state of the weather data.</extracomment>
+        <translation>Pas encore de météo pour ce lieu : ouvrez le panneau.</translation>
+    </message>
+    <message>
+        <source>Updated %1.</source>
+        <extracomment>In the window of the main application. The state of the weather data; %1 is &quot;just now&quot;, &quot;5 min ago&quot; or the like.</extracomment>
+        <translation>Mis à jour %1.</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <extracomment>In the window of the main application. In place of %1 of &quot;Updated %1.&quot;</extracomment>
+        <translation>à l'instant</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <extracomment>In the window of the main application. In place of %1 of &quot;Updated %1.&quot;; a number of minutes, 2 or more.</extracomment>
+        <translation>il y a %1 min</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <extracomment>In the window of the main application. In place of %1 of &quot;Updated %1.&quot;; a number of days, 2 or more.</extracomment>
+        <translation>il y a %1 jours</translation>
+    </message>
+    <message>
+        <source>The panel was closed since, or the feed could not be reached.</source>
+        <extracomment>In the window of the main application. Behind &quot;Updated 3 h ago.&quot;: why the data is old.</extracomment>
+        <translation>Depuis, le panneau était fermé ou le service injoignable.</translation>
+    </message>
+    <message>
+        <source>Places: %1</source>
+        <extracomment>In the window of the main application. Who made the list of places; %1 is a name and a licence.</extracomment>
+        <translation>Lieux : %1</translation>
+    </message>
 </context>
 </TS>

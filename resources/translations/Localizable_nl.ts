@@ -557,5 +557,180 @@
         <extracomment>In front of the units to choose from.</extracomment>
         <translation>Temperatuur</translation>
     </message>
+    <message>
+        <source>Search for a place</source>
+        <extracomment>In the window of the main application. In the empty field in which a place&apos;s name is typed.</extracomment>
+        <translation>Plaats zoeken</translation>
+    </message>
+    <message>
+        <source>Places found</source>
+        <extracomment>In the window of the main application. Spoken: the list below the search field.</extracomment>
+        <translation>Gevonden plaatsen</translation>
+    </message>
+    <message>
+        <source>No place of this name</source>
+        <extracomment>In the window of the main application. In the list below the search field.</extracomment>
+        <translation>Geen plaats met deze naam</translation>
+    </message>
+    <message>
+        <source>No place is chosen</source>
+        <extracomment>In the window of the main application. In place of the chosen place&apos;s name.</extracomment>
+        <translation>Geen plaats gekozen</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <extracomment>In the window of the main application. Caption in front of latitude and longitude.</extracomment>
+        <translation>Coördinaten</translation>
+    </message>
+    <message>
+        <source>Local time</source>
+        <extracomment>In the window of the main application. Caption in front of the clock time at the place.</extracomment>
+        <translation>Plaatselijke tijd</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <extracomment>In the window of the main application. Caption in front of the times of sunrise and sunset.</extracomment>
+        <translation>Zon</translation>
+    </message>
+    <message>
+        <source>Moon</source>
+        <extracomment>In the window of the main application. Caption in front of the moon&apos;s phase.</extracomment>
+        <translation>Maan</translation>
+    </message>
+    <message>
+        <source>rises %1</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Sun&quot;; %1 is a clock time.</extracomment>
+        <translation>op %1</translation>
+    </message>
+    <message>
+        <source>sets %1</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Sun&quot;; %1 is a clock time.</extracomment>
+        <translation>onder %1</translation>
+    </message>
+    <message>
+        <source>does not set (polar day)</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Sun&quot;.</extracomment>
+        <translation>gaat niet onder (pooldag)</translation>
+    </message>
+    <message>
+        <source>does not rise (polar night)</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Sun&quot;.</extracomment>
+        <translation>komt niet op (poolnacht)</translation>
+    </message>
+    <message>
+        <source>new moon</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>nieuwe maan</translation>
+    </message>
+    <message>
+        <source>waxing crescent</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>wassende sikkel</translation>
+    </message>
+    <message>
+        <source>first quarter</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>eerste kwartier</translation>
+    </message>
+    <message>
+        <source>waxing gibbous</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>wassende maan</translation>
+    </message>
+    <message>
+        <source>full moon</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>volle maan</translation>
+    </message>
+    <message>
+        <source>waning gibbous</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>afnemende maan</translation>
+    </message>
+    <message>
+        <source>last quarter</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>laatste kwartier</translation>
+    </message>
+    <message>
+        <source>waning crescent</source>
+        <extracomment>In the window of the main application. Behind the caption &quot;Moon&quot;: a phase.</extracomment>
+        <translation>afnemende sikkel</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <extracomment>In the window of the main application. Heading above the units to choose from.</extracomment>
+        <translation>Eenheden</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <extracomment>In the window of the main application. Heading above the sets of weather symbols.</extracomment>
+        <translation>Symbolen</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <extracomment>In the window of the main application. Heading above the state of the weather data.</extracomment>
+        <translation>Weer</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <extracomment>In the window of the main application. A set of weather symbols: in full colour.</extracomment>
+        <translation>Kleur</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <extracomment>In the window of the main application. A set of weather symbols: line drawings.</extracomment>
+        <translation>Lijnen</translation>
+    </message>
+    <message>
+        <source>Usual in %1: %2</source>
+        <extracomment>In the window of the main application. A button that chooses these units. %1 is a country, %2 are units. The sentence must bear any country&apos;s name.</extracomment>
+        <translation>Gebruikelijk (%1): %2</translation>
+    </message>
+    <message>
+        <source>Usual units: %1</source>
+        <extracomment>In the window of the main application. A button that chooses these units.</extracomment>
+        <translation>Gebruikelijke eenheden: %1</translation>
+    </message>
+    <message>
+        <source>Show the panel at login</source>
+        <extracomment>In the window of the main application. A box to tick.</extracomment>
+        <translation>Paneel tonen bij aanmelden</translation>
+    </message>
+    <message>
+        <source>No weather of this place yet: open the panel.</source>
+        <extracomment>In the window of the main application. The state of the weather data.</extracomment>
+        <translation>Nog geen weer van deze plaats: open het paneel.</translation>
+    </message>
+    <message>
+        <source>Updated %1.</source>
+        <extracomment>In the window of the main application. The state of the weather data; %1 is &quot;just now&quot;, &quot;5 min ago&quot; or the like.</extracomment>
+        <translation>Bijgewerkt %1.</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <extracomment>In the window of the main application. In place of %1 of &quot;Updated %1.&quot;</extracomment>
+        <translation>zojuist</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <extracomment>In the window of the main application. In place of %1 of &quot;Updated %1.&quot;; a number of minutes, 2 or more.</extracomment>
+        <translation>%1 min geleden</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <extracomment>In the window of the main application. In place of %1 of &quot;Updated %1.&quot;; a number of days, 2 or more.</extracomment>
+        <translation>%1 dagen geleden</translation>
+    </message>
+    <message>
+        <source>The panel was closed since, or the feed could not be reached.</source>
+        <extracomment>In the window of the main application. Behind &quot;Updated 3 h ago.&quot;: why the data is old.</extracomment>
+        <translation>Sindsdien was het paneel gesloten of de dienst onbereikbaar.</translation>
+    </message>
+    <message>
+        <source>Places: %1</source>
+        <extracomment>In the window of the main application. Who made the list of places; %1 is a name and a licence.</extracomment>
+        <translation>Plaatsen: %1</translation>
+    </message>
 </context>
 </TS>

@@ -7,12 +7,13 @@
 #include "SourceCommand.h"
 #include "SymbolCommand.h"
 #include "UnitsCommand.h"
+#include "WindowCommand.h"
 
 namespace zephyrix {
 
 std::span<const Command> commands() {
-    static const std::array table = {placeCommand, unitsCommand, sourceCommand, skyCommand,
-                                     symbolCommand};
+    static const std::array table = {placeCommand,  unitsCommand, sourceCommand,
+                                     windowCommand, skyCommand,   symbolCommand};
     return table;
 }
 

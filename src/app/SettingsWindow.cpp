@@ -1,82 +1,148 @@
 #include "SettingsWindow.h"
 
-#include <QFormLayout>
 #include <QKeyEvent>
-#include <QTextStream>
 
 #include "Command.h"
-#include "PlaceCommand.h"
+#include "FeedState.h"
+#include "LoginEntry.h"
 #include "SharedSettings.h"
+#include "foundation/Clock.h"
 #include "foundation/Localized.h"
 #include "foundation/Log.h"
+#include "model/LocationResult.h"
+#include "symbols/QKWeatherSymbols.h"
 
 namespace zephyrix {
 
 namespace {
 
-QString placeText() {
-    QString text;
-    QTextStream out(&text);
-    try {
-        printPlace(out);
-    } catch (const CommandError& error) {
-        return error.text();
-    }
-    QStringList lines = text.trimmed().split(QLatin1Char('\n'));
-    for (QString& line : lines)
-        line = line.simplified();  // its columns are for a terminal
-    return lines.join(QLatin1Char('\n'));
+constexpr int leastWidth = 460;   // points, the least
+constexpr int placeHeight = 176;  // of the search and its results, or the place's card
+constexpr int sectionSpacing = 14;
+constexpr int everyMinute = 60'000;  // milliseconds
+const QString locationKey = QStringLiteral("location");
+
+QLabel* heading(QWidget* parent, QStringView key) {
+    auto* const label = textLabel(parent, 1.0, true);
+    label->setText(localized(key));
+    return label;
 }
 
-/// "wind" is the key of a setting, "Wind" that of its translation.
-QString nameOf(const QuantityUnits& quantity) {
-    QString key = quantity.name.toString();
-    key[0] = key.at(0).toUpper();
-    return localized(key);
+std::optional<LocationResult> placeIn(const UserDefaults& settings) {
+    const auto dictionary = settings.dictionary(locationKey);
+    return dictionary ? std::optional(LocationResult(*dictionary)) : std::nullopt;
 }
 
 }  // namespace
 
-SettingsWindow::SettingsWindow() : settings_(openSharedSettings()), place_(new QLabel(this)) {
+SettingsWindow::SettingsWindow()
+    : settings_(openSharedSettings()),
+      panelSettings_(openPanelSettings()),
+      search_(new PlaceSearch(this)),
+      place_(new PlaceCard(this)),
+      units_(new UnitsForm(*settings_, this)),
+      symbols_(new SymbolChoice(*panelSettings_, this)),
+      state_(textLabel(this, 1.0, false)),
+      source_(textLabel(this, 0.9, false)),
+      login_(new QCheckBox(localized(u"Show the panel at login"), this)) {
     setWindowTitle(QStringLiteral("Zephyrix"));
-    auto* const form = new QFormLayout(this);
-    place_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    form->addRow(localized(u"Place"), place_);
-    for (const QuantityUnits& quantity : allQuantities)
-        if (quantity.isSetting)
-            addChoice(quantity);
-    for (const UnitChoice& choice : choices_) {
-        form->addRow(nameOf(*choice.quantity), choice.box);
-        connect(choice.box, &QComboBox::activated, this, [this, choice] { store(choice); });
-    }
+    setMinimumWidth(leastWidth);
+    auto* const column = new QVBoxLayout(this);
+    column->setSpacing(6);
+    addPlace(column);
+    addChoices(column);
+    addWeather(column);
     showStored();
-    connect(settings_.get(), &UserDefaults::changedByOthers, this, &SettingsWindow::showStored);
+    for (UserDefaults* store : {settings_.get(), panelSettings_.get()})
+        connect(store, &UserDefaults::changedByOthers, this, &SettingsWindow::showStored);
+    connect(&minute_, &QTimer::timeout, this, &SettingsWindow::showNow);
+    search_->setFocus();
 }
 
-void SettingsWindow::addChoice(const QuantityUnits& quantity) {
-    auto* const box = new QComboBox(this);
-    box->setObjectName(quantity.name.toString());
-    for (const Unit& unit : quantity.units)
-        box->addItem(localized(unit.text), static_cast<qlonglong>(unit.code));
-    choices_.push_back({&quantity, box});
+void SettingsWindow::addPlace(QVBoxLayout* column) {
+    auto* const area = new QWidget(this);
+    auto* const stacked = new QVBoxLayout(area);
+    stacked->setContentsMargins(0, 0, 0, 0);
+    stacked->addWidget(search_);
+    stacked->addWidget(place_, 1);
+    area->setMinimumHeight(placeHeight);
+    column->addWidget(area, 1);
+    connect(search_, &PlaceSearch::activeChanged, place_, &QWidget::setHidden);
+    connect(search_, &PlaceSearch::chosen, this, &SettingsWindow::takePlace);
 }
 
-void SettingsWindow::store(const UnitChoice& choice) {
-    settings_->set(choice.quantity->name.toString(), choice.box->currentData());
+void SettingsWindow::addChoices(QVBoxLayout* column) {
+    column->addSpacing(sectionSpacing);
+    column->addWidget(heading(this, u"Units"));
+    column->addWidget(units_);
+    column->addSpacing(sectionSpacing);
+    column->addWidget(heading(this, u"Symbols"));
+    column->addWidget(symbols_);
+    connect(units_, &UnitsForm::changed, this, [this] { keep(*settings_); });
+    connect(symbols_, &SymbolChoice::changed, this, [this] {
+        QKWeatherSymbols::clearCache();  // before the panel looks for the others
+        keep(*panelSettings_);
+    });
+}
+
+void SettingsWindow::addWeather(QVBoxLayout* column) {
+    column->addSpacing(sectionSpacing);
+    column->addWidget(heading(this, u"Weather"));
+    state_->setObjectName(QStringLiteral("state"));
+    source_->setObjectName(QStringLiteral("source"));
+    column->addWidget(state_);
+    column->addWidget(source_);
+    column->addSpacing(sectionSpacing);
+    login_->setObjectName(QStringLiteral("login"));
+    column->addWidget(login_);
+    connect(login_, &QCheckBox::clicked, this, &SettingsWindow::takeLogin);
+}
+
+void SettingsWindow::takePlace(const ListedPlace& place) {
+    settings_->set(locationKey, locationOf(place).asDict());
+    keep(*settings_);
+}
+
+void SettingsWindow::takeLogin(bool on) {
     try {
-        save(*settings_);
+        LoginEntry::set(on);
+    } catch (const CommandError& error) {
+        logLine(error.text());
+        login_->setChecked(LoginEntry::isOn());
+    }
+}
+
+void SettingsWindow::keep(UserDefaults& store) {
+    try {
+        save(store);
     } catch (const CommandError& error) {
         logLine(error.text());
     }
+    showStored();
 }
 
 void SettingsWindow::showStored() {
-    place_->setText(placeText());
-    for (const UnitChoice& choice : choices_) {
-        const auto code =
-            static_cast<qlonglong>(settings_->integer(choice.quantity->name.toString()));
-        choice.box->setCurrentIndex(choice.box->findData(code));  // none for an unknown one
-    }
+    const auto document = panelSettings_->dictionary(QStringLiteral("lastWeatherData"));
+    place_->setPlace(placeIn(*settings_));
+    units_->showStored(document.value_or(QVariantMap()).value(QStringLiteral("obs")).toMap());
+    symbols_->showStored();
+    login_->setChecked(LoginEntry::isOn());
+    showNow();
+}
+
+void SettingsWindow::showNow() {
+    place_->showNow();
+    const auto place = placeIn(*settings_);
+    const FeedState feed = feedState(panelSettings_->dictionary(QStringLiteral("lastWeatherData")),
+                                     place ? place->uid() : std::nullopt, Clock::now());
+    state_->setText(feed.state);
+    QStringList sources;
+    if (!feed.source.isEmpty())
+        sources << feed.source;
+    if (!feed.licence.isEmpty())
+        sources << feed.licence;
+    sources << localized(u"Places: %1").arg(placesAttribution);
+    source_->setText(sources.join(QLatin1Char('\n')));
 }
 
 void SettingsWindow::keyPressEvent(QKeyEvent* event) {
@@ -84,6 +150,17 @@ void SettingsWindow::keyPressEvent(QKeyEvent* event) {
         close();
     else
         QWidget::keyPressEvent(event);
+}
+
+void SettingsWindow::showEvent(QShowEvent* event) {
+    showNow();
+    minute_.start(everyMinute);
+    QWidget::showEvent(event);
+}
+
+void SettingsWindow::hideEvent(QHideEvent* event) {
+    minute_.stop();
+    QWidget::hideEvent(event);
 }
 
 }  // namespace zephyrix

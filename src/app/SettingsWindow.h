@@ -1,19 +1,24 @@
 #pragma once
 
 #include <memory>
-#include <vector>
 
-#include <QComboBox>
+#include <QCheckBox>
 #include <QLabel>
+#include <QTimer>
+#include <QVBoxLayout>
 #include <QWidget>
 
+#include "PlaceCard.h"
+#include "PlaceSearch.h"
+#include "SymbolChoice.h"
+#include "UnitsForm.h"
 #include "foundation/UserDefaults.h"
-#include "meteo/UnitTable.h"
 
 namespace zephyrix {
 
-/// The main application's window: the place, and the units to choose. A choice is stored at once,
-/// so that a panel on the screen shows it at once; what another program stores shows here. Escape
+/// The main application's window: the place and its search, units, symbols, where the weather comes
+/// from and how old it is, and whether the panel is shown at login. A choice is stored at once, so
+/// that a panel on the screen shows it at once; what another program stores shows here. Escape
 /// closes it.
 class SettingsWindow : public QWidget {
     Q_OBJECT
@@ -24,20 +29,31 @@ class SettingsWindow : public QWidget {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
   private:
-    struct UnitChoice {
-        const QuantityUnits* quantity;
-        QComboBox* box;  // its entries carry the units' codes
-    };
-
-    void addChoice(const QuantityUnits& quantity);
-    void store(const UnitChoice& choice);
+    void addPlace(QVBoxLayout* column);
+    void addChoices(QVBoxLayout* column);
+    void addWeather(QVBoxLayout* column);
+    void takePlace(const ListedPlace& place);
+    void takeLogin(bool on);
     void showStored();
+    /// What changes with the time alone.
+    void showNow();
+    /// Writes what was chosen, and shows it.
+    void keep(UserDefaults& store);
 
     std::unique_ptr<UserDefaults> settings_;
-    QLabel* place_;
-    std::vector<UnitChoice> choices_;
+    std::unique_ptr<UserDefaults> panelSettings_;
+    PlaceSearch* search_;
+    PlaceCard* place_;
+    UnitsForm* units_;
+    SymbolChoice* symbols_;
+    QLabel* state_;
+    QLabel* source_;
+    QCheckBox* login_;
+    QTimer minute_;
 };
 
 }  // namespace zephyrix

@@ -4,11 +4,23 @@
 
 namespace zephyrix {
 
-std::unique_ptr<UserDefaults> openSharedSettings() {
-    auto settings = UserDefaults::suite(QStringLiteral("group.Zephyrix"));
+namespace {
+
+std::unique_ptr<UserDefaults> openSuite(const QString& name) {
+    auto settings = UserDefaults::suite(name);
     if (!settings)
         throw CommandError::failure(QStringLiteral("the settings cannot be opened"));
     return settings;
+}
+
+}  // namespace
+
+std::unique_ptr<UserDefaults> openSharedSettings() {
+    return openSuite(QStringLiteral("group.Zephyrix"));
+}
+
+std::unique_ptr<UserDefaults> openPanelSettings() {
+    return openSuite(QStringLiteral("zephyrix-panel"));
 }
 
 void save(UserDefaults& settings) {

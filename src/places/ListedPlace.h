@@ -28,6 +28,6 @@ struct ListedPlace {
 [[nodiscard]] QString areaOf(const ListedPlace& place);
 
 /// Who made the list, and under which licence it may be used.
-inline constexpr QLatin1String placesAttribution("Places: GeoNames (geonames.org), CC BY 4.0");
+inline constexpr QLatin1String placesAttribution("GeoNames (geonames.org), CC BY 4.0");
 
 }  // namespace zephyrix

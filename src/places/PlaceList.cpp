@@ -110,6 +110,14 @@ std::optional<ListedPlace> PlaceList::place(std::int64_t uid) {
     return place;
 }
 
+QString PlaceList::countryName(const QString& code) const {
+    SqliteStatement name =
+        file_.statement("SELECT name FROM country WHERE code = ? AND language = ?");
+    name.bind(1, code.toUtf8());
+    name.bind(2, language_);
+    return name.step() ? name.text(0) : QString();
+}
+
 std::optional<ListedPlace> PlaceList::nearest(const Coordinate& coordinate) {
     std::int64_t uid = 0;
     double distance = earthRadius * 4.0;  // farther than any

@@ -41,6 +41,9 @@ class PlaceList {
     /// that of the longitude ("Etc/GMT-2"). Near a border it may be the neighbour's.
     [[nodiscard]] QString zoneAt(const Coordinate& coordinate);
 
+    /// The name of a country by its two letters; empty for one that is not in the list.
+    [[nodiscard]] QString countryName(const QString& code) const;
+
   private:
     PlaceList(const QString& file, const QString& language);
 

@@ -1,8 +1,18 @@
+#include <QAccessible>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QProcess>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStandardPaths>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include "app/SettingsWindow.h"
+#include "foundation/UserLocale.h"
 #include "model/LocationResult.h"
 #include "support/LoopbackServer.h"
 #include "support/TestHome.h"
@@ -14,44 +24,156 @@ using namespace zephyrix::testing;
 
 class SettingsWindowTest : public ::testing::Test {
   protected:
-    SettingsWindowTest() { qputenv("XDG_CONFIG_HOME", freshFolder().toUtf8()); }
+    SettingsWindowTest() : folder_(freshFolder()) { qputenv("XDG_CONFIG_HOME", folder_.toUtf8()); }
     static void runZephyrix(const QStringList& arguments) {
         ASSERT_EQ(QProcess::execute(QStringLiteral(PROGRAM_DIR "/zephyrix"), arguments), 0);
     }
-    static QComboBox* box(const SettingsWindow& window, const char* quantity) {
-        return window.findChild<QComboBox*>(QLatin1String(quantity));
+    template <typename Widget>
+    static Widget* named(const SettingsWindow& window, const char* name) {
+        auto* const widget = window.findChild<Widget*>(QLatin1String(name));
+        EXPECT_NE(widget, nullptr) << name;
+        return widget;
     }
+    static bool says(const SettingsWindow& window, const char* words) {
+        return waitUntil([&] {
+            for (const QLabel* label : window.findChildren<QLabel*>())
+                if (label->text().contains(QString::fromUtf8(words)))
+                    return true;
+            return false;
+        });
+    }
+    static QVariant stored(const char* suite, const char* key) {
+        return UserDefaults::suite(QLatin1String(suite))->object(QLatin1String(key));
+    }
+
+    QString folder_;
 };
+
+TEST_F(SettingsWindowTest, APlaceIsFoundAndSetByKeyboardAlone) {
+    SettingsWindow window;
+    window.show();
+    auto* const field = named<QLineEdit>(window, "search");
+    auto* const results = named<QListWidget>(window, "results");
+    EXPECT_FALSE(results->isVisible());
+    QTest::keyClicks(field, QStringLiteral("springf"));
+    EXPECT_TRUE(results->isVisible());
+    QTest::keyClick(field, Qt::Key_Down);
+    const QString second = results->item(1)->text();
+    EXPECT_TRUE(results->item(1)->isSelected());
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_TRUE(field->text().isEmpty() && window.isVisible()) << "only the field is emptied";
+    QTest::keyClicks(field, QStringLiteral("springf"));
+    QTest::keyClick(field, Qt::Key_Down);
+    QTest::keyClick(field, Qt::Key_Return);
+    const LocationResult place(stored("group.Zephyrix", "location").toMap());
+    ASSERT_TRUE(place.checkValidity());
+    EXPECT_TRUE(second.contains(*place.provinceName())) << second.toStdString();
+    EXPECT_TRUE(field->text().isEmpty());
+    EXPECT_FALSE(results->isVisible());
+    EXPECT_TRUE(says(window, "America/"));
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(SettingsWindowTest, CoordinatesAreAPlaceAndATextWithoutOneChoosesNothing) {
+    SettingsWindow window;
+    window.show();
+    auto* const field = named<QLineEdit>(window, "search");
+    for (const char* none : {"xqzzy", "91, 5", "0 0"}) {
+        field->setText(QLatin1String(none));
+        QTest::keyClick(field, Qt::Key_Return);
+        EXPECT_FALSE(stored("group.Zephyrix", "location").isValid()) << none;
+    }
+    field->setText(QStringLiteral("-54.7, -68.2"));
+    QTest::keyClick(field, Qt::Key_Return);
+    const LocationResult hut(stored("group.Zephyrix", "location").toMap());
+    EXPECT_EQ(hut.objTimeZone().id(), "America/Argentina/Ushuaia");
+    EXPECT_TRUE(says(window, "54.70° S, 68.20° W"));
+}
 
 TEST_F(SettingsWindowTest, ChoiceByKeyboardIsStoredAtOnce) {
     SettingsWindow window;
-    QComboBox* const wind = box(window, "wind");
+    auto* const wind = named<QComboBox>(window, "wind");
     EXPECT_EQ(wind->currentText(), QStringLiteral("Bft"));
     window.show();
     QTest::keyClick(wind, Qt::Key_Down);
     QTest::keyClick(wind, Qt::Key_Down);
-    const auto stored = UserDefaults::suite(QStringLiteral("group.Zephyrix"));
-    EXPECT_EQ(stored->integer(QStringLiteral("wind")), 2);
-    EXPECT_FALSE(stored->object(QStringLiteral("temperature")).isValid()) << "only what was chosen";
-    QTest::keyClick(&window, Qt::Key_Escape);
-    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(stored("group.Zephyrix", "wind"), QVariant(2LL));
+    EXPECT_FALSE(stored("group.Zephyrix", "temperature").isValid()) << "only what was chosen";
+    EXPECT_TRUE(says(window, "22 km/h")) << "the example, 12 knots";
+}
+
+TEST_F(SettingsWindowTest, TheUsualUnitsOfTheCountryAreOneButton) {
+    const ReplacedUserLocale america("en_US");
+    SettingsWindow window;
+    auto* const usual = named<QPushButton>(window, "usual");
+    EXPECT_EQ(usual->text(), QStringLiteral("Usual in United States: °F, mph, in, inHg"));
+    usual->click();
+    EXPECT_FALSE(usual->isEnabled()) << "they are in force";
+    for (const char* key : {"temperature", "precipitation", "pressure"})
+        EXPECT_EQ(stored("group.Zephyrix", key), QVariant(1LL)) << key;
+    EXPECT_EQ(stored("group.Zephyrix", "wind"), QVariant(4LL));
+    EXPECT_TRUE(says(window, "70°F"));
+}
+
+TEST_F(SettingsWindowTest, SymbolsAreChosenInThePanelsOwnStore) {
+    SettingsWindow window;
+    EXPECT_TRUE(named<QRadioButton>(window, "symbols0")->isChecked());
+    auto* const lines = named<QRadioButton>(window, "symbols1");
+    EXPECT_NE(lines->icon().pixmap(lines->iconSize()).toImage(),
+              named<QRadioButton>(window, "symbols0")->icon().pixmap(lines->iconSize()).toImage());
+    lines->click();
+    EXPECT_EQ(stored("zephyrix-panel", "symbolSet"), QVariant(1LL));
+    EXPECT_TRUE(lines->isChecked());
+}
+
+TEST_F(SettingsWindowTest, ThePanelAtLoginIsAnEntryThatDesktopsRead) {
+    const QString entry = folder_ + QStringLiteral("/autostart/zephyrix-panel.desktop");
+    SettingsWindow window;
+    auto* const login = named<QCheckBox>(window, "login");
+    EXPECT_FALSE(login->isChecked());
+    login->click();
+    QFile file(entry);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray text = file.readAll();
+    EXPECT_TRUE(text.startsWith("[Desktop Entry]\n"));
+    EXPECT_TRUE(text.contains("/zephyrix-panel\"\n")) << text.toStdString();
+    const QString validator =
+        QStandardPaths::findExecutable(QStringLiteral("desktop-file-validate"));
+    EXPECT_TRUE(validator.isEmpty() || QProcess::execute(validator, {entry}) == 0);
+    const SettingsWindow other;
+    EXPECT_TRUE(named<QCheckBox>(other, "login")->isChecked());
+    login->click();
+    EXPECT_FALSE(QFile::exists(entry));
+}
+
+TEST_F(SettingsWindowTest, EveryControlHasANameForAScreenReader) {
+    runZephyrix({QStringLiteral("place"), QStringLiteral("default")});
+    SettingsWindow window;
+    window.show();
+    int controls = 0;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible() ||
+            qobject_cast<QLabel*>(widget) != nullptr)
+            continue;
+        const QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(widget);
+        ASSERT_NE(spoken, nullptr);
+        EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty())
+            << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
+        ++controls;
+    }
+    EXPECT_GE(controls, 9);
 }
 
 TEST_F(SettingsWindowTest, ShowsWhatAnotherProgramStores) {
     const SettingsWindow window;
-    const auto says = [&](const char* words) {
-        return waitUntil([&] {
-            for (const QLabel* label : window.findChildren<QLabel*>())
-                if (label->text().contains(QLatin1String(words)))
-                    return true;
-            return false;
-        });
-    };
-    EXPECT_TRUE(says("no place is chosen"));
+    EXPECT_TRUE(says(window, "No place is chosen"));
     runZephyrix({QStringLiteral("place"), QStringLiteral("default")});
-    EXPECT_TRUE(says("Berlin"));
+    EXPECT_TRUE(says(window, "Berlin"));
     runZephyrix({QStringLiteral("units"), QStringLiteral("pressure"), QStringLiteral("inHg")});
-    EXPECT_TRUE(waitUntil([&] { return box(window, "pressure")->currentText() == u"inHg"; }));
+    EXPECT_TRUE(
+        waitUntil([&] { return named<QComboBox>(window, "pressure")->currentText() == u"inHg"; }));
+    EXPECT_TRUE(says(window, "No weather of this place yet"));
 }
 
 }  // namespace
