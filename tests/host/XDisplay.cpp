@@ -1,6 +1,8 @@
 #include "XDisplay.h"
 
+#include <array>
 #include <cstdlib>
+#include <string_view>
 #include <xcb/xcb.h>
 
 #include <QStandardPaths>
@@ -100,10 +102,25 @@ QByteArray XDisplay::picture(const Window& window) const {
             xcb_get_image_data_length(image.get())};
 }
 
-void XDisplay::press(const Window& window, Key key) {
+void XDisplay::pressCode(const Window& window, std::uint8_t code) {
     for (const int type : {XCB_KEY_PRESS, XCB_KEY_RELEASE})
-        send<xcb_key_press_event_t>(connection_.get(), window.id, type,
-                                    static_cast<std::uint8_t>(key), root(), QPoint(1, 1));
+        send<xcb_key_press_event_t>(connection_.get(), window.id, type, code, root(), QPoint(1, 1));
+}
+
+void XDisplay::press(const Window& window, Key key) {
+    pressCode(window, static_cast<std::uint8_t>(key));
+}
+
+void XDisplay::type(const Window& window, const char* letters) {
+    struct Row {
+        std::string_view letters;
+        std::size_t firstCode;
+    };
+    constexpr std::array keyboard{Row{"qwertyuiop", 24}, Row{"asdfghjkl", 38}, Row{"zxcvbnm", 52}};
+    for (const char letter : std::string_view(letters))
+        for (const Row& row : keyboard)
+            if (const auto at = row.letters.find(letter); at != std::string_view::npos)
+                pressCode(window, static_cast<std::uint8_t>(row.firstCode + at));
 }
 
 void XDisplay::click(const Window& window, const QPoint& point) {

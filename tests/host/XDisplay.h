@@ -37,11 +37,14 @@ class XDisplay {
 
     enum class Key : std::uint8_t { Escape = 9, Return = 36, Space = 65 };
     void press(const Window& window, Key key);
+    /// Small letters of English, as its keyboard has them.
+    void type(const Window& window, const char* letters);
     /// A point relative to the window.
     void click(const Window& window, const QPoint& point);
 
   private:
     [[nodiscard]] std::uint32_t root() const;
+    void pressCode(const Window& window, std::uint8_t code);
 
     QProcess server_;
     QString name_;
