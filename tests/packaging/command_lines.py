@@ -9,7 +9,7 @@ import programs
 from programs import BUILD, PROGRAMS, SOURCE
 
 OPTION = re.compile(r"(?<![\w/-])--?[a-z][a-z-]*")
-COMMANDS = ("place", "units", "source", "sky", "symbol")
+COMMANDS = ("place", "units", "source", "window", "sky", "symbol")
 
 
 def help_of(program, *command):
