@@ -73,7 +73,7 @@ std::vector<ForecastDay> daysIn(const QJsonObject& answer, const Place& place, I
     const QJsonArray times = valueIn(daily, "time").toArray();
     const QDate today = dateAt(place, now);
     std::vector<ForecastDay> days;
-    for (qsizetype i = 0; i < times.size() && i < 2 * shownDays; ++i) {
+    for (qsizetype i = 0; i < times.size() && i < qsizetype{2} * shownDays; ++i) {
         const auto midnight = unixTime(times.at(i));
         const QDate date = midnight ? dayBeginningAt(*midnight, offset) : QDate();
         if (!date.isValid() || date < today || (!days.empty() && date <= days.back().date))

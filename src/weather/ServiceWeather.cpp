@@ -106,14 +106,14 @@ std::optional<ServiceWeather::Reading> ServiceWeather::ask(const QString& name, 
                                                            const std::optional<Reading>& kept,
                                                            Instant now) const {
     try {
-        HttpAnswer answer = surroundings_.http.get(requestFor(place, kept));
+        const HttpAnswer answer = surroundings_.http.get(requestFor(place, kept));
         const int status = answer.status;
         const bool isWeather = status == 200 || status == 203 || (status == 304 && kept);
         if (!isWeather) {
             refused(name, answer, now);
             return std::nullopt;
         }
-        Reading read = reading(std::move(answer), place, kept, now);
+        Reading read = reading(answer, place, kept, now);
         surroundings_.store.write(name, read.answer);
         succeeded(name, status);
         return read;
@@ -131,14 +131,14 @@ std::optional<ServiceWeather::Reading> ServiceWeather::ask(const QString& name, 
     return std::nullopt;
 }
 
-ServiceWeather::Reading ServiceWeather::reading(HttpAnswer answer, const Place& place,
+ServiceWeather::Reading ServiceWeather::reading(const HttpAnswer& answer, const Place& place,
                                                 const std::optional<Reading>& kept,
                                                 Instant now) const {
     const bool isUnchanged = answer.status == 304;
     KeptAnswer keeping{.fetched = now,
                        .freshUntil = freshUntil(answer, now),
                        .lastModified = answer.lastModified,
-                       .body = isUnchanged ? kept->answer.body : std::move(answer.body)};
+                       .body = isUnchanged ? kept->answer.body : answer.body};
     if (isUnchanged && keeping.lastModified.isEmpty())
         keeping.lastModified = kept->answer.lastModified;
     Weather weather = service_.read(keeping.body, place, now);

@@ -59,7 +59,7 @@ class ServiceWeather : public WeatherSource {
                                              const std::optional<Reading>& kept, Instant now) const;
     [[nodiscard]] HttpRequest requestFor(const Place& place,
                                          const std::optional<Reading>& kept) const;
-    [[nodiscard]] Reading reading(HttpAnswer answer, const Place& place,
+    [[nodiscard]] Reading reading(const HttpAnswer& answer, const Place& place,
                                   const std::optional<Reading>& kept, Instant now) const;
     [[nodiscard]] Instant freshUntil(const HttpAnswer& answer, Instant now) const;
     void succeeded(const QString& name, int status) const;

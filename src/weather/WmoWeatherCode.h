@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <optional>
 
 #include "Quantity.h"
@@ -16,10 +18,10 @@ struct WmoWeather {
 
 /// The code is 0 to 99.
 [[nodiscard]] constexpr WmoWeather wmoWeather(int code) noexcept {
-    constexpr double sky[] = {0.0, 2.0, 4.0, 8.0};
+    constexpr std::array sky{0.0, 2.0, 4.0, 8.0};
     constexpr int skyUnchanged = 2;
     if (code >= 0 && code <= 3)
-        return {skyUnchanged, Eighths(sky[code])};
+        return {skyUnchanged, Eighths(sky.at(static_cast<std::size_t>(code)))};
     return {code};
 }
 

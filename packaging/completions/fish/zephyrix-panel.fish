@@ -9,6 +9,8 @@ complete -c zephyrix-panel -l scale -x -d 'Pixels a point of the picture, 0.5 to
 complete -c zephyrix-panel -l scheme -x -a 'light dark' -d 'Colours of the panel'
 complete -c zephyrix-panel -l feed -x -a 'http:// https://' -d 'Address of the feed server'
 complete -c zephyrix-panel -l allow-plain-http -d 'Also a feed elsewhere without encryption'
+complete -c zephyrix-panel -l format -x -a 'waybar polybar' -d 'Print one line for a bar'
+complete -c zephyrix-panel -l follow -d 'Print the line anew when it has changed'
 complete -c zephyrix-panel -l paint-time -d 'Print how long the first paint on the screen took'
 complete -c zephyrix-panel -l help -d 'List the options'
 complete -c zephyrix-panel -l version -d 'Print the version'
