@@ -1,8 +1,5 @@
 #include "SymbolSet.h"
 
-#include <algorithm>
-#include <array>
-#include <cmath>
 #include <span>
 
 #include <QDir>
@@ -20,22 +17,6 @@ QString text(std::string_view view) {
 void append(QStringList& names, std::span<const LayerImage> images) {
     for (const LayerImage& image : images)
         names.append(text(image.image));
-}
-
-std::array<double, 256> linearLight() {
-    std::array<double, 256> table{};
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        const double c = double(i) / 255.0;
-        table[i] = c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    }
-    return table;
-}
-
-double luminance(QRgb colour) {
-    static const std::array<double, 256> linear = linearLight();
-    return 0.2126 * linear[std::size_t(qRed(colour))] +
-           0.7152 * linear[std::size_t(qGreen(colour))] +
-           0.0722 * linear[std::size_t(qBlue(colour))];
 }
 
 }  // namespace
@@ -89,20 +70,6 @@ double inkOf(const QImage& image) {
         for (int x = 0; x < image.width(); ++x)
             ink += qAlpha(image.pixel(x, y)) / 255.0;
     return ink;
-}
-
-double contrast(QRgb one, QRgb other) {
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
-QRgb over(QRgb pixel, QRgb ground) {
-    const double alpha = qAlpha(pixel) / 255.0;
-    const auto mix = [&](int above, int below) {
-        return int(std::lround(alpha * above + (1 - alpha) * below));
-    };
-    return qRgb(mix(qRed(pixel), qRed(ground)), mix(qGreen(pixel), qGreen(ground)),
-                mix(qBlue(pixel), qBlue(ground)));
 }
 
 }  // namespace zephyrix::testing

@@ -34,10 +34,4 @@ struct SymbolSet {
 /// All the ink of an image: the sum of its alpha, 1 a full pixel.
 [[nodiscard]] double inkOf(const QImage& image);
 
-/// Contrast of two opaque colours, 1 to 21, after WCAG 2.
-[[nodiscard]] double contrast(QRgb one, QRgb other);
-
-/// What is seen of a pixel on an opaque ground.
-[[nodiscard]] QRgb over(QRgb pixel, QRgb ground);
-
 }  // namespace zephyrix::testing

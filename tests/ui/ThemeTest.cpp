@@ -1,39 +1,18 @@
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 
 #include <gtest/gtest.h>
 
+#include "support/Contrast.h"
 #include "ui/Theme.h"
 
 namespace zephyrix {
 namespace {
 
+using testing::contrast;
+using testing::over;
 using Color = Theme::Color;
 using Scheme = Theme::Scheme;
-
-QColor over(const QColor& ground, const QColor& top) {
-    const auto mix = [&](double below, double above) {
-        return below + (above - below) * top.alphaF();
-    };
-    return QColor::fromRgbF(static_cast<float>(mix(ground.redF(), top.redF())),
-                            static_cast<float>(mix(ground.greenF(), top.greenF())),
-                            static_cast<float>(mix(ground.blueF(), top.blueF())));
-}
-
-// Relative luminance and contrast ratio as WCAG 2.1 defines them.
-double luminance(const QColor& color) {
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& a, const QColor& b) {
-    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 // A pressed row: half-white in a view that blends it with the surface.
 QColor pressed(const QColor& ground, Scheme scheme) {
