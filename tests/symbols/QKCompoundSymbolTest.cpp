@@ -6,12 +6,14 @@
 #include <gtest/gtest.h>
 
 #include "SymbolSet.h"
+#include "support/DataLines.h"
 #include "symbols/QKCompoundSymbol.h"
 #include "symbols/QKWeatherSymbols.h"
 
 namespace zephyrix {
 namespace {
 
+using testing::dataLines;
 using testing::filled;
 using testing::setScreenScale;
 
@@ -50,76 +52,31 @@ Spot spotOf(const QImage& image) {
     return {found.x / weight, found.y / weight, std::sqrt(weight)};
 }
 
-struct PlacedCase {
-    const char* layer;  // the only image of the set
-    int code;
-    double scale;  // of the layer to the picture
-    double x;      // its centre from the left and the top of the picture
-    double y;
-};
-
-// Each line of the layout, asked by its codes and read off the picture.
-constexpr PlacedCase placedCases[] = {
-    {"cloud1", 100000, 1.0, 0.5, 0.5},       // a cloud alone fills the picture
-    {"prec2000", 20000, 1.0, 0.5, 0.2},      // precipitation without a cloud
-    {"prec2000", 720000, 1.0, 0.5, 0.4512},  // and below one
-    {"cloud2", 220000, 0.9, 0.52, 0.375},
-    {"sun", 1120000, 0.8, 0.4, 0.375},  // a small cloud and precipitation
-    {"sun", 1420000, 0.8, 0.4, 0.375},
-    {"moon8", 2420000, 0.75, 0.3975, 0.375},
-    {"cloud4", 1420000, 0.95, 0.615, 0.416},
-    {"prec2000", 1120000, 1.0, 0.5391, 0.5},
-    {"sun", 1100000, 0.9, 0.4, 0.475},  // a small cloud alone
-    {"moon8", 2100000, 0.84, 0.4063, 0.475},
-    {"cloud1", 1100000, 1.0, 0.6397, 0.5303},
-    {"sun", 1220000, 0.8, 0.435, 0.3516},  // another cloud and precipitation
-    {"sun", 1820000, 0.8, 0.435, 0.3516},
-    {"moon8", 2320000, 0.75, 0.435, 0.3516},
-    {"cloud5", 1520000, 0.925, 0.5127, 0.422},
-    {"prec2000", 1220000, 1.0, 0.5, 0.5},
-    {"sun", 1020000, 0.8, 0.5, 0.5},       // no cloud and precipitation
-    {"moon8", 2920000, 0.75, 0.5, 0.5},    // 920000: a 9 that does not count
-    {"sun", 1000000, 0.8, 0.435, 0.4492},  // a clear sky
-    {"sun", 1900000, 0.8, 0.435, 0.4492},
-    {"moon8", 2500000, 0.75, 0.435, 0.4492},
-    {"cloud8", 1800000, 0.925, 0.5127, 0.5193},
-    {"sun", 1999999, 1.0, 0.5, 0.5},  // nothing is moved
-    {"prec9999", 999999, 1.0, 0.5, 0.5},
-    {"prec9999", 99990, 1.0, 0.5, 0.5},  // drawn, but laid out as if it were not
-};
-
 TEST_F(CompoundSymbol, DrawsEachLayerWhereItsCaseWantsIt) {
     double worst = 0.0;
-    for (const PlacedCase& each : placedCases) {
+    for (const QStringList& line : dataLines(QStringLiteral("symbols/layout.txt"))) {
         QDir(setFolder()).removeRecursively();
         QDir().mkpath(setFolder());
-        add(QString::fromLatin1(each.layer), spot());
+        add(line[0], spot());
+        const double x = line[3].toDouble();
+        const double y = line[4].toDouble();
         QKWeatherSymbols::startAfresh();
         for (const double scale : {1.0, 1.5, 2.0, 3.0}) {
-            SCOPED_TRACE(::testing::Message() << each.code << " " << each.layer << " @" << scale);
+            SCOPED_TRACE(::testing::Message() << qPrintable(line.join(u' ')) << " @" << scale);
             symbols.setWinscale(scale);
-            const QImage picture = symbols.symbolForCode(Number(each.code), QSizeF(80, 60));
+            const QImage picture = symbols.symbolForCode(Number(line[1].toInt()), QSizeF(80, 60));
             ASSERT_EQ(picture.size(), QSize(int(80 * scale), int(60 * scale)));
             EXPECT_EQ(picture.devicePixelRatio(), scale);
             const Spot found = spotOf(picture);
-            EXPECT_NEAR(found.x, each.x * 80 * scale, 0.51);
-            EXPECT_NEAR(found.y, each.y * 60 * scale, 0.51);
-            const double side = std::sqrt(80.0 * 60.0) * scale * each.scale / spotParts;
+            EXPECT_NEAR(found.x, x * 80 * scale, 0.51);
+            EXPECT_NEAR(found.y, y * 60 * scale, 0.51);
+            const double side = std::sqrt(80.0 * 60.0) * scale * line[2].toDouble() / spotParts;
             EXPECT_NEAR(found.side, side, 0.1);
-            worst = std::max({worst, std::abs(found.x - each.x * 80 * scale),
-                              std::abs(found.y - each.y * 60 * scale)});
+            worst = std::max(
+                {worst, std::abs(found.x - x * 80 * scale), std::abs(found.y - y * 60 * scale)});
         }
     }
     std::printf("worst distance of a layer's centre: %.3f pixels a side\n", worst);
-}
-
-TEST_F(CompoundSymbol, ComputesRectanglesWithoutRounding) {
-    const QRectF canvas(0, 0, 100, 50);
-    EXPECT_EQ(QKCompoundSymbol::scaleAndCenter(canvas, 0.8, canvas), QRectF(10, 5, 80, 40));
-    EXPECT_EQ(QKCompoundSymbol::scaleAndCenter(QRectF(10, 10, 20, 20), 0.5, canvas),
-              QRectF(30, 17.5, 10, 10));
-    EXPECT_EQ(QKCompoundSymbol::positionAtCenter(QRectF(10, 5, 80, 40), {0.4, 0.25}, canvas),
-              QRectF(0, 17.5, 80, 40));
 }
 
 TEST_F(CompoundSymbol, StacksPrecipitationBodyCloudAndWarning) {
@@ -172,41 +129,20 @@ TEST_F(CompoundSymbol, LayersStandUprightAndKeepSoftEdgesClean) {
 }
 
 TEST_F(CompoundSymbol, AsksForTheImagesThatTheDigitsName) {
-    const struct {
-        int code;
-        QStringList images;  // precipitation, body, cloud, warning
-    } cases[] = {
-        {1100000, {"", "sun", "cloud1", ""}},
-        {2000000, {"", "moon8", "", ""}},
-        {2999999, {"prec9999", "moon8", "", "warn9"}},
-        {3000000, {"", "", "", ""}},  // a place for a body, but no body
-        {9999990, {"prec9999", "", "", ""}},
-        {9999992, {"prec9999", "", "", "storm"}},
-        {9999982, {"prec9998", "", "", "warn2"}},  // storm only from 9999990 on
-        {9999, {"", "", "", "warn9"}},
-        {10000, {"prec1000", "", "", ""}},
-        {900000, {"", "", "", ""}},  // there is no ninth cloud
-        {800000, {"", "", "cloud8", ""}},
-        {500020, {"", "", "cloud8", ""}},  // lightning: three further on
-        {600020, {"", "", "", ""}},        // and no cloud beyond the eighth
-        {1121050, {"prec2105", "sun", "cloud4", ""}},
-        {921050, {"noshadow_prec2105", "", "", ""}},
-        {929050, {"prec2905", "", "", ""}},  // a 9 in the second place has its shadow
-        {821050, {"prec2105", "", "", ""}},  // 8 and lightning: 11, no cloud
-    };
-    for (const auto& each : cases)
-        for (const QString& image : each.images)
-            if (!image.isEmpty() && !QFile::exists(setFolder() + "/" + image + ".png"))
+    const auto lines = dataLines(QStringLiteral("symbols/layers.txt"));
+    for (const QStringList& line : lines)
+        for (const QString& image : line.mid(1, 4))
+            if (image != u"-" && !QFile::exists(setFolder() + "/" + image + ".png"))
                 addFilled(image);
-    for (const auto& each : cases) {
-        const auto code = static_cast<std::uint64_t>(each.code);
+    for (const QStringList& line : lines) {
+        const std::uint64_t code = line[0].toULongLong();
         symbols.prepareInstanceForSymbolCode(code);
-        EXPECT_EQ(
-            (QStringList{
-                nameOf(symbols.precForSymbol(code)), nameOf(symbols.celestialBodyForSymbol(code)),
-                nameOf(symbols.cloudForSymbol(code)), nameOf(symbols.warningForSymbol(code))}),
-            each.images)
-            << each.code;
+        QStringList found{
+            nameOf(symbols.precForSymbol(code)), nameOf(symbols.celestialBodyForSymbol(code)),
+            nameOf(symbols.cloudForSymbol(code)), nameOf(symbols.warningForSymbol(code))};
+        for (QString& image : found)
+            image = image.isEmpty() ? QStringLiteral("-") : image;
+        EXPECT_EQ(found, line.mid(1, 4)) << qPrintable(line[0]);
     }
 }
 
