@@ -20,9 +20,14 @@ namespace {
 
 using testing::ScopedEnvironment;
 
-const QStringList languages{QStringLiteral("de"), QStringLiteral("en"), QStringLiteral("es"),
-                            QStringLiteral("fr"), QStringLiteral("it"), QStringLiteral("nl"),
-                            QStringLiteral("pl"), QStringLiteral("ru"), QStringLiteral("sv")};
+/// Those of the tables in the folder; that each one is built in and chosen is checked below.
+const QStringList languages = [] {
+    QStringList found;
+    for (const QString& name : QDir(QStringLiteral(SOURCE_DIR "/resources/translations"))
+                                   .entryList({QStringLiteral("Localizable_*.ts")}))
+        found << name.mid(12).chopped(3);
+    return found;
+}();
 
 const QStringList pluralForms{QStringLiteral("one"), QStringLiteral("few"), QStringLiteral("many"),
                               QStringLiteral("other")};
@@ -99,18 +104,14 @@ QStringList matches(const QString& pattern, const QString& text) {
 TEST(StringTable, EveryLanguageHasEveryKey) {
     const QStringList keys = tableOf(QStringLiteral("en")).keys;
     ASSERT_GE(keys.size(), 50);
-    QStringList found;
-    for (const QString& name : QDir(QStringLiteral(SOURCE_DIR "/resources/translations"))
-                                   .entryList({QStringLiteral("*.ts")})) {
-        const StringTable table =
-            readTable(QStringLiteral(SOURCE_DIR "/resources/translations/") + name);
-        found << table.language;
-        EXPECT_EQ(name, QStringLiteral("Localizable_%1.ts").arg(table.language));
-        EXPECT_EQ(table.keys, keys) << qPrintable(name);
-        EXPECT_EQ(table.faults, QStringList()) << qPrintable(name);
-        EXPECT_EQ(QStringList(table.keys).removeDuplicates(), 0) << qPrintable(name);
+    ASSERT_GE(languages.size(), 9);
+    for (const QString& language : languages) {
+        const StringTable table = tableOf(language);
+        EXPECT_EQ(table.language, language);
+        EXPECT_EQ(table.keys, keys) << qPrintable(language);
+        EXPECT_EQ(table.faults, QStringList()) << qPrintable(language);
+        EXPECT_EQ(QStringList(table.keys).removeDuplicates(), 0) << qPrintable(language);
     }
-    EXPECT_EQ(found, languages);
 }
 
 TEST(StringTable, EveryTextIsFitForUse) {

@@ -4,9 +4,12 @@
 #include <gtest/gtest.h>
 
 #include "meteo/MeteoMapping.h"
+#include "support/DataLines.h"
 
 namespace zephyrix {
 namespace {
+
+using testing::dataLines;
 
 constexpr double missing = MeteoMapping::missingValue;
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
@@ -35,31 +38,12 @@ TEST(Units, ACodeOutsideOfItsTableHasTheTextOfTheBaseUnit) {
         EXPECT_EQ(c.operation(c.code), QString::fromUtf8(c.text)) << c.text << " for " << c.code;
 }
 
-struct TemperatureCase {
-    double value;
-    UnitCode unitIn;
-    UnitCode unitOut;
-    double mapped;
-    const char* why;
-};
-
 TEST(Units, TemperaturesGoByCelsius) {
-    const TemperatureCase cases[] = {
-        {20.0, 0, 0, 20.0, "unchanged"},
-        {-40.0, 0, 1, -40.0, "where the scales meet"},
-        {212.0, 1, 0, 100.0, "boiling water"},
-        {20.0, 0, 2, -253.15, "the exchanged sign"},
-        {293.15, 2, 0, 566.3, "the exchanged sign back"},
-        {212.0, 1, 2, 100.0 - 273.15, "by Celsius"},
-        {0.0, 2, 1, 273.15 * 1.8 + 32.0, "by Celsius"},
-        {21.5, 7, -7, 21.5, "unknown codes convert nothing"},
-        {missing, 0, 1, missing, "missing"},
-        {missing, 2, 0, missing, "missing"},
-        {-9998.5, 0, 2, -9998.5 - 273.15, "only the very value is missing"},
-    };
-    for (const TemperatureCase& c : cases)
-        EXPECT_NEAR(MeteoMapping::mapTemperature(c.value, c.unitIn, c.unitOut), c.mapped, 1e-9)
-            << c.why;
+    for (const QStringList& line : dataLines(QStringLiteral("meteo/temperatures.txt")))
+        EXPECT_NEAR(
+            MeteoMapping::mapTemperature(line[0].toDouble(), line[1].toInt(), line[2].toInt()),
+            line[3].toDouble(), 1e-9)
+            << qPrintable(line.join(u' '));
     for (const auto operation : {MeteoMapping::celsiusToFahrenheit, MeteoMapping::celsiusToKelvin,
                                  MeteoMapping::fahrenheitToCelsius, MeteoMapping::kelvinToCelsius})
         EXPECT_EQ(operation(missing), missing);

@@ -3,40 +3,17 @@
 #include <gtest/gtest.h>
 
 #include "meteo/MeteoMapping.h"
+#include "support/DataLines.h"
 
 namespace zephyrix {
 namespace {
 
-struct SectorCase {
-    std::int64_t direction;
-    std::int64_t speed;
-    std::int64_t sector;
-    const char* why;
-};
+using testing::dataLines;
 
 TEST(WindAndUv, DirectionsFallIntoSixteenSectors) {
-    const SectorCase cases[] = {
-        {990, 5, -2, "variable"},
-        {990, 0, -2, "variable comes before calm"},
-        {200, 0, -1, "calm"},
-        {-9999, 0, -1, "calm comes before everything else"},
-        {11, 5, 0, "below half a sector"},
-        {12, 5, 1, "above half a sector"},
-        {33, 5, 1, "33.75 is the limit"},
-        {34, 5, 2, "33.75 is the limit"},
-        {45, 5, 2, "the middle of a sector"},
-        {348, 5, 15, "the last before north"},
-        {349, 5, 0, "north again"},
-        {360, 5, 0, "north again"},
-        {371, 5, 0, "beyond a turn"},
-        {372, 5, 1, "beyond a turn"},
-        {720, -3, 0, "a negative speed is no calm"},
-        {-22, 5, -1, "not wrapped"},
-        {-9999, 5, -444, "not wrapped"},
-    };
-    for (const SectorCase& c : cases)
-        EXPECT_EQ(MeteoMapping::mapWindToSector(c.direction, c.speed), c.sector)
-            << c.direction << ": " << c.why;
+    for (const QStringList& line : dataLines(QStringLiteral("meteo/wind_sectors.txt")))
+        EXPECT_EQ(MeteoMapping::mapWindToSector(line[0].toInt(), line[1].toInt()), line[2].toInt())
+            << qPrintable(line.join(u' '));
     const std::int64_t far =
         MeteoMapping::mapWindToSector(std::numeric_limits<std::int64_t>::max(), 1);
     EXPECT_TRUE(far >= 0 && far < 16);
