@@ -3,32 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "foundation/Bundle.h"
+#include "support/ScopedEnvironment.h"
 #include "support/TestHome.h"
 
 namespace zephyrix {
 namespace {
 
-/// Sets environment variables and puts them back as they were.
-class Environment {
-  public:
-    Environment(const char* language, const char* all, const char* messages, const char* lang) {
-        const char* values[] = {language, all, messages, lang};
-        for (std::size_t i = 0; i < std::size(names); ++i) {
-            before_[i] = qgetenv(names[i]);
-            values[i] ? qputenv(names[i], values[i]) : qunsetenv(names[i]);
-        }
-    }
-    ~Environment() {
-        for (std::size_t i = 0; i < std::size(names); ++i)
-            before_[i].isNull() ? qunsetenv(names[i]) : qputenv(names[i], before_[i]);
-    }
-    Environment(const Environment&) = delete;
-    Environment& operator=(const Environment&) = delete;
-
-  private:
-    static constexpr const char* names[] = {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"};
-    QByteArray before_[std::size(names)];
-};
+using testing::ScopedEnvironment;
 
 TEST(Bundle, TheEnvironmentChoosesTheLanguages) {
     struct Case {
@@ -55,7 +36,10 @@ TEST(Bundle, TheEnvironmentChoosesTheLanguages) {
         {"pt-BR:es-MX", "C", nullptr, nullptr, "es en"},
     };
     for (const Case& row : cases) {
-        const Environment environment(row.language, row.all, row.messages, row.lang);
+        const ScopedEnvironment environment({{"LANGUAGE", row.language},
+                                             {"LC_ALL", row.all},
+                                             {"LC_MESSAGES", row.messages},
+                                             {"LANG", row.lang}});
         EXPECT_EQ(Bundle().preferredLocalizations().join(QLatin1Char(' ')),
                   QLatin1String(row.expected));
     }
@@ -66,12 +50,12 @@ TEST(Bundle, TextsComeFromTheTableOfTheFirstLanguage) {
     const QString key = QStringLiteral("Wind gusts (test)");
     const QString missing = QStringLiteral("not in any table");
     {
-        const Environment german("de", nullptr, nullptr, nullptr);
+        const ScopedEnvironment german({{"LANGUAGE", "de"}});
         EXPECT_EQ(bundle.localizedString(key), QStringLiteral("Windböen (Prüfung)"));
         EXPECT_EQ(bundle.localizedString(missing), missing);
         EXPECT_EQ(bundle.localizedString({}), QString());
     }
-    const Environment english("en", nullptr, nullptr, nullptr);
+    const ScopedEnvironment english({{"LANGUAGE", "en"}});
     EXPECT_EQ(bundle.localizedString(key), QStringLiteral("Windböen (Prüfung)"))
         << "the table is kept";
     bundle.forgetStringTable();

@@ -8,14 +8,14 @@
 
 namespace zephyrix::testing {
 
-/// Sets environment variables (an empty value removes one) and puts them back when it ends.
+/// Sets environment variables (null removes one) and puts them back when it ends.
 class ScopedEnvironment {
   public:
     explicit ScopedEnvironment(
         std::initializer_list<std::pair<const char*, const char*>> variables) {
         for (const auto& [name, value] : variables) {
             before_[name] = qgetenv(name);
-            set(name, value);
+            set(name, QByteArray(value));
         }
     }
     ~ScopedEnvironment() {
@@ -27,7 +27,7 @@ class ScopedEnvironment {
 
   private:
     static void set(const QByteArray& name, const QByteArray& value) {
-        if (value.isEmpty())
+        if (value.isNull())
             qunsetenv(name.constData());
         else
             qputenv(name.constData(), value);
