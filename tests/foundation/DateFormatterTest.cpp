@@ -166,12 +166,6 @@ TEST(DateFormatter, AnInstantBeyondAllCalendarsHasNoText) {
         EXPECT_EQ(utc.stringFromDate(Instant::fromSecondsSince1970(seconds)), QString());
 }
 
-TEST(DateFormatter, WithoutAPatternNothingIsRead) {
-    DateFormatter formatter;
-    formatter.setTimeStyle(DateFormatter::Style::Short);
-    EXPECT_FALSE(formatter.dateFromString(QString()));
-}
-
 TEST(DateFormatterDeathTest, APatternThatCannotBeReadStops) {
     const DateFormatter formatter = formatterFor(QStringLiteral("EEE"), "UTC");
     EXPECT_DEATH(static_cast<void>(formatter.dateFromString(QStringLiteral("Mon"))),

@@ -62,16 +62,6 @@ TEST(NumberFormatter, FractionLimitsGiveWayToEachOther) {
     EXPECT_EQ(formatter.stringFromNumber(2.0), QStringLiteral("2.0"));
 }
 
-TEST(NumberFormatter, FillsUpToTheFormatWidth) {
-    NumberFormatter formatter;
-    formatter.setMinimumIntegerDigits(2);
-    formatter.setPaddingCharacter(u'*');
-    EXPECT_EQ(formatter.stringFromNumber(7), QStringLiteral("07"));
-    formatter.setFormatWidth(5);
-    formatter.setPositiveSuffix(QStringLiteral("h"));
-    EXPECT_EQ(formatter.stringFromNumber(7), QStringLiteral("**07h"));
-}
-
 struct LocaleCase {
     const char* all;
     const char* numeric;

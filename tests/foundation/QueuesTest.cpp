@@ -92,17 +92,6 @@ TEST_F(MainQueueTest, KeepsTheOrderOfEachThread) {
     EXPECT_EQ(inOrder, threads * count);
 }
 
-TEST_F(MainQueueTest, AJobRunsLaterAndOnTheMainThread) {
-    bool done = false;
-    const auto mainThread = std::this_thread::get_id();
-    MainQueue::dispatch([&] {
-        EXPECT_EQ(std::this_thread::get_id(), mainThread);
-        done = true;
-    });
-    EXPECT_FALSE(done);
-    runUntil(done);
-}
-
 TEST_F(MainQueueTest, JobsBehindOneThatRunsALoopStillComeInOrder) {
     std::vector<int> order;
     bool last = false;
@@ -120,21 +109,6 @@ TEST_F(MainQueueTest, JobsBehindOneThatRunsALoopStillComeInOrder) {
     });
     runUntil(last);
     EXPECT_EQ(order, (std::vector{1, 2, 3, 4}));
-}
-
-TEST_F(MainQueueTest, AnOperationHandsItsResultBack) {
-    OperationQueue queue;
-    std::unique_ptr<int> result;
-    bool done = false;
-    queue.addOperation([&] {
-        auto made = std::make_shared<int>(42);
-        MainQueue::dispatch([&, made] {
-            result = std::make_unique<int>(*made);
-            done = true;
-        });
-    });
-    runUntil(done);
-    EXPECT_EQ(*result, 42);
 }
 
 TEST(MainQueue, JobsEndWithTheirApplication) {

@@ -12,27 +12,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-/// The least that adopts Location: nothing but a uid.
-class BarePlace : public Location {
-  public:
-    explicit BarePlace(std::optional<Number> uid) : uid_(uid) {}
-    [[nodiscard]] std::optional<Number> uid() const override { return uid_; }
-    void setUid(std::optional<Number> uid) override { uid_ = uid; }
-    [[nodiscard]] std::optional<QString> name() const override { return {}; }
-    void setName(std::optional<QString> /*name*/) override {}
-    [[nodiscard]] std::optional<QString> timezone() const override { return {}; }
-    void setTimezone(std::optional<QString> /*timezone*/) override {}
-    [[nodiscard]] std::optional<Number> longitude() const override { return {}; }
-    void setLongitude(std::optional<Number> /*longitude*/) override {}
-    [[nodiscard]] std::optional<Number> latitude() const override { return {}; }
-    void setLatitude(std::optional<Number> /*latitude*/) override {}
-    [[nodiscard]] std::optional<Number> locationType() const override { return {}; }
-    void setLocationType(std::optional<Number> /*type*/) override {}
-
-  private:
-    std::optional<Number> uid_;
-};
-
 QString reasonOfAsDict(const LocationResult& place) {
     try {
         (void)place.asDict();
@@ -150,9 +129,11 @@ TEST(LocationResult, ValidityNeedsUidNameAndAPlaceOffTheOrigin) {
 
 TEST(LocationResult, OnlyTheUidDecidesEquality) {
     LocationResult place = LocationResult::defaultSearchResult();
-    const BarePlace same(Number(18228265.0));
-    const BarePlace different(Number(18228266));
-    const BarePlace unknown(std::nullopt);
+    LocationResult same;
+    same.setUid(Number(18228265.0));
+    LocationResult different = place;
+    different.setUid(Number(18228266));
+    const LocationResult unknown;
     EXPECT_TRUE(place.isEqual(&same));
     EXPECT_FALSE(place.isEqual(&different));
     EXPECT_TRUE(place.isEqual(&unknown));
