@@ -177,33 +177,6 @@ TEST_F(ForecastCellTest, ADayViewIsYellowWhenHighlighted) {
     EXPECT_EQ(view.backgroundColor().alpha(), 0);
 }
 
-TEST_F(ForecastCellTest, CallsItselfThroughTheClass) {
-    class TwoColumns : public ForecastCell {
-      public:
-        int dayCountForScreen() override { return 2; }
-        QString dayFromDateString(const std::optional<QString>& /*text*/) override {
-            return QStringLiteral("day");
-        }
-    };
-    cellOn(375);
-    TwoColumns cell;
-    cell.resize(300, 104);
-    View container(&cell);
-    container.resize(300, 104);
-    cell.setContainer(&container);
-    cell.awakeFromNib();
-    cell.setLocation(LocationResult(showerInBerlin().place));
-    cell.setDefaults(&stage->defaults());
-    QKCompoundSymbol symbols;
-    cell.setCs(&symbols);
-    cell.setData(showerInBerlin().days);
-    cell.layoutIfNeeded();
-    const auto columns = columnsOf(&cell);
-    ASSERT_EQ(columns.size(), 2);
-    EXPECT_EQ(columns.at(1)->geometry(), QRect(150, 0, 150, 104));
-    EXPECT_EQ(columns.at(0)->dayLabel()->text(), QStringLiteral("day"));
-}
-
 TEST(ForecastCellDeathTest, StopsWithoutSettings) {
     EXPECT_DEATH(
         {

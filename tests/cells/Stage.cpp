@@ -2,16 +2,11 @@
 
 #include <utility>
 
-#include <QApplication>
-#include <QLinearGradient>
-#include <QPainter>
-
 #include "cells/Registration.h"
 #include "foundation/Bundle.h"
 #include "foundation/Screen.h"
 #include "meteo/MeteoMapping.h"
 #include "ui/TextButton.h"
-#include "ui/Theme.h"
 #include "ui/VisualEffectView.h"
 
 namespace zephyrix::testing {
@@ -155,16 +150,7 @@ void Stage::willDisplayCell(TableCell* cell, const IndexPath& /*path*/) {
     cell->setSelectedBackgroundView(effect);
 }
 
-void Stage::focusFirstRow() {
-    layOut();
-    surface_.show();
-    surface_.activateWindow();
-    QApplication::processEvents();
-    obsCell()->setFocus(Qt::TabFocusReason);
-}
-
 void Stage::didSelectRowAtIndexPath(const IndexPath& path) {
-    ++selections;
     tableView()->deselectRow(path, true);
 }
 
@@ -176,20 +162,6 @@ void Stage::layOut() {
     surface_.resize(width_ + margins.left() + margins.right(),
                     height + margins.top() + margins.bottom());
     tableView()->layoutIfNeeded();
-}
-
-QImage Stage::picture() {
-    layOut();
-    QImage image((QSizeF(surface_.size()) * scale_).toSize(), QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(scale_);
-    const bool dark = Theme::scheme() == Theme::Scheme::Dark;
-    QLinearGradient backdrop(0, 0, surface_.width(), surface_.height());
-    backdrop.setColorAt(0.0, dark ? QColor(38, 70, 108) : QColor(120, 140, 178));
-    backdrop.setColorAt(1.0, dark ? QColor(150, 112, 104) : QColor(214, 160, 124));
-    QPainter painter(&image);
-    painter.fillRect(surface_.rect(), backdrop);
-    surface_.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
 }
 
 }  // namespace zephyrix::testing

@@ -4,7 +4,6 @@
 #include <optional>
 
 #include <QFont>
-#include <QImage>
 #include <QVariantList>
 #include <QVariantMap>
 
@@ -57,12 +56,8 @@ class Stage : public TableViewController {
     /// Null while collapsed.
     [[nodiscard]] ForecastCell* forecastCell();
     void toggle();
-    /// As by the Tab key, in a window that is shown and active.
-    void focusFirstRow();
     /// Lays everything out in its present size.
     void layOut();
-    /// The panel over a plain coloured backdrop.
-    [[nodiscard]] QImage picture();
 
     void connectOutlets() override;
     [[nodiscard]] int numberOfRowsInSection(int section) override;
@@ -70,8 +65,6 @@ class Stage : public TableViewController {
     [[nodiscard]] double heightForRowAtIndexPath(const IndexPath& path) override;
     void willDisplayCell(TableCell* cell, const IndexPath& path) override;
     void didSelectRowAtIndexPath(const IndexPath& path) override;
-
-    int selections = 0;
 
   private:
     Weather weather_;
