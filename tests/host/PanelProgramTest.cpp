@@ -71,21 +71,6 @@ TEST_F(PanelProgramTest, ShowsTheFetchedWeatherAndASecondStartAsksForNothing) {
     EXPECT_EQ(server_.requestLines().size(), 2);
 }
 
-TEST_F(PanelProgramTest, WhileTheFeedIsAwayItShowsTheOldDocument) {
-    panel_.choosePlace();
-    run({QStringLiteral("--json")});
-    QVariantMap document = panel_.setting(documentKey).toMap();
-    document.insert(QStringLiteral("insertDtg"), Clock::now().addingSeconds(-9999).toDateTime());
-    panel_.setSetting(documentKey, document);
-    const QVariant stored = panel_.setting(documentKey);
-    server_.refuse();
-    const auto result = run({QStringLiteral("--text")});
-    EXPECT_EQ(result.exitCode, 0);
-    EXPECT_THAT(result.out.toStdString(), HasSubstr("21"));
-    EXPECT_THAT(result.err.toStdString(), HasSubstr("Transport error 1"));
-    EXPECT_EQ(panel_.setting(documentKey), stored);
-}
-
 TEST_F(PanelProgramTest, FeedServerOfTheSettingsIsUsed) {
     panel_.choosePlace();
     panel_.setSetting(QStringLiteral("feedServer"), server_.baseAddress().chopped(1));

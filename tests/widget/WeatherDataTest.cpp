@@ -30,11 +30,6 @@ TEST(WeatherData, SurvivesItsDictionaryForm) {
     EXPECT_EQ(restored.asDict(), stored);
 }
 
-TEST(WeatherData, AbsentFieldsLeaveNoEntry) {
-    EXPECT_EQ(WeatherData().asDict(), QVariantMap());
-    EXPECT_FALSE(WeatherData().isValid());
-}
-
 TEST(WeatherData, CachedValueOfTheWrongTypeIsAbsent) {
     const WeatherData document(
         fromJson(R"({"insertDtg": 1433152800, "uid": "5", "obs": {}, "forecast": [{}, 3]})"));

@@ -84,24 +84,6 @@ TEST_F(WeatherFeedTest, InvalidAddressGivesNoDocumentAndNoRequest) {
     EXPECT_TRUE(server_.requestLines().isEmpty());
 }
 
-TEST_F(WeatherFeedTest, ManyFetchesAnswerOnceEach) {
-    constexpr std::size_t count = 20;
-    for (std::size_t i = 0; i < count; ++i)
-        feed_->fetch(Number(1), keepResult());
-    ASSERT_TRUE(waitUntil([this] { return results_.size() >= count; }));
-    fetch();  // a turn more, in which a second answer would arrive
-    EXPECT_EQ(results_.size(), 1U);
-}
-
-TEST_F(WeatherFeedTest, EndedWhileARequestRunsItStaysSilent) {
-    server_.answerWith(answerNothing());
-    feed_->fetch(Number(1), keepResult());
-    ASSERT_TRUE(waitUntil([this] { return !server_.requestLines().isEmpty(); }));
-    feed_.reset();
-    EXPECT_TRUE(waitUntil([this] { return server_.connections() == 0; }));
-    EXPECT_TRUE(results_.empty());
-}
-
 TEST_F(WeatherFeedTest, EndedWhileTheAnswerIsReadItStaysSilent) {
     std::atomic<bool> reading = false;
     std::promise<void> ended;
