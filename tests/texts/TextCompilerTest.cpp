@@ -48,12 +48,6 @@ void replaceLine(const QString& path, const QByteArray& code, const QByteArray& 
     file.write(lines.join('\n'));
 }
 
-TEST(TextCompiler, TheTablesAsTheyStandAreGood) {
-    const Result result = compile(copyOfTheTables());
-    EXPECT_EQ(result.exitCode, 0) << result.complaints.toStdString();
-    EXPECT_TRUE(result.wroteDatabase);
-}
-
 TEST(TextCompiler, EverySlipIsToldWithFileAndLineAllAtOnce) {
     struct Slip {
         const char* file;
