@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <QApplication>
+
 #include "cells/Registration.h"
 #include "foundation/Bundle.h"
 #include "foundation/Screen.h"
