@@ -65,9 +65,9 @@ TEST_F(BarFormatTest, FieldsAreWhatTheRowShows) {
     show(QVariantMap());
     EXPECT_EQ(line("{temperature}|{wind}|{direction}|{precipitation}|{pressure}|{source}"),
               QStringLiteral("14°C|3 Bft|WSW|0.2 mm|1013.2 hPa|a test"));
-    EXPECT_EQ(line(" {place}: {{{symbol}}} "), QStringLiteral("Neu Stadt: {\u26C5}"))
+    EXPECT_EQ(line(" {place}: {{{symbol}}} "), QStringLiteral("Neu Stadt: {\U0001F325}"))
         << "one line, and doubled braces are braces";
-    EXPECT_EQ(line("polybar"), QStringLiteral("\u26C5 14°C"));
+    EXPECT_EQ(line("polybar"), QStringLiteral("\U0001F325 14°C"));
     EXPECT_EQ(line(""), QString());
 }
 

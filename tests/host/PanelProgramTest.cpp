@@ -1,4 +1,7 @@
 #include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QImage>
@@ -203,7 +206,9 @@ TEST_F(PanelWindowTest, ItsFeedEndsWithItHoweverItEnds) {
 /// A bar that reads one line after the other.
 class Bar {
   public:
-    explicit Bar(const PanelProgram& panel, const QString& feed) {
+    Bar(const PanelProgram& panel, const QString& feed, const QString& pipe = {}) {
+        if (!pipe.isEmpty())
+            process_.setStandardOutputFile(pipe);
         panel.start(process_, {QStringLiteral("--format"), QStringLiteral("{temperature} {place}"),
                                QStringLiteral("--follow"), QStringLiteral("--feed"), feed});
     }
@@ -216,7 +221,6 @@ class Bar {
         return process_.readLine().trimmed();
     }
     void terminate() { process_.terminate(); }
-    void goAway() { process_.closeReadChannel(QProcess::StandardOutput); }
     [[nodiscard]] bool hasEndedWell() {
         return waitUntil([this] { return process_.state() == QProcess::NotRunning; }) &&
                process_.exitStatus() == QProcess::NormalExit && process_.exitCode() == 0;
@@ -261,9 +265,13 @@ TEST_F(PanelProgramTest, FollowsWhatABarShows) {
 
 TEST_F(PanelProgramTest, EndsWhenTheBarGoesAway) {
     panel_.choosePlace();
-    Bar bar(panel_, server_.baseAddress());
-    bar.nextLine();
-    bar.goAway();
+    const QByteArray pipe = QFile::encodeName(panel_.home() + QStringLiteral("/bar"));
+    ASSERT_EQ(::mkfifo(pipe.constData(), S_IRUSR | S_IWUSR), 0);
+    const int reader = ::open(pipe.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    Bar bar(panel_, server_.baseAddress(), QFile::decodeName(pipe));
+    char line[64];
+    EXPECT_TRUE(waitUntil([&] { return ::read(reader, line, sizeof line) > 0; }));
+    ::close(reader);
     EXPECT_TRUE(bar.hasEndedWell());
     EXPECT_FALSE(panel_.setting(QStringLiteral("showingAll")).isValid())
         << "the bar does not speak for the panel";
