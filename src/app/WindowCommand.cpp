@@ -28,8 +28,8 @@ struct WindowOptions {
 };
 
 WindowOptions optionsFrom(const QStringList& arguments) {
-    if (isAddress(arguments.first())) {
-        checkAddress(arguments.first());
+    if (const QString first = arguments.value(0); isAddress(first)) {
+        checkAddress(first);
         return {};
     }
     QCommandLineParser parser;
