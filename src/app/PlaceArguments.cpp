@@ -80,7 +80,7 @@ std::int64_t uidFrom(const QString& text) {
 }
 
 LocationResult listedPlace(std::int64_t uid) {
-    const LocationResult berlin = LocationResult::defaultSearchResult();
+    LocationResult berlin = LocationResult::defaultSearchResult();
     if (berlin.uid()->integerValue() == uid)
         return berlin;
     const auto place = PlaceList(Bundle::main().preferredLocalizations().first()).place(uid);

@@ -26,9 +26,11 @@ class SlowSource : public WeatherSource {
             std::this_thread::yield();
         if (!knows)
             return std::nullopt;
-        return Weather{.source = QStringLiteral("slow"),
-                       .observation = Observation{.time = noon, .temperature = Celsius(celsius)},
-                       .validUntil = now.addingSeconds(600.0)};
+        std::optional<Weather> weather(std::in_place);
+        weather->source = QStringLiteral("slow");
+        weather->observation = Observation{.time = noon, .temperature = Celsius(celsius)};
+        weather->validUntil = now.addingSeconds(600.0);
+        return weather;
     }
 
     mutable std::atomic<int> asked = 0;
