@@ -179,7 +179,6 @@ int runPanel(const PanelOptions& options, char* programName, QTextStream& out) {
     int count = 1;
     const QApplication application(count, arguments.data());
     QApplication::setApplicationName(QStringLiteral("zephyrix-panel"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Zephyrix"));
     QApplication::setDesktopFileName(QStringLiteral("zephyrix-panel"));
     const TerminationSignals signalled;
     QObject::connect(&signalled, &TerminationSignals::received, qApp, [] { QApplication::quit(); });
