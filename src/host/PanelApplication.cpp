@@ -167,6 +167,7 @@ class Panel {
 
 }  // namespace
 
+// NOLINTNEXTLINE(readability-non-const-parameter): the application object takes no other
 int runPanel(const PanelOptions& options, char* programName, QTextStream& out) {
     if (!hasDisplay() && !options.reportsOnly()) {
         logLine(QStringLiteral(
