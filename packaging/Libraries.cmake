@@ -1,7 +1,7 @@
 # The libraries, for find_package(Zephyrix).
 include(CMakePackageConfigHelpers)
 
-zephyrix_export_rooms(foundation model astro meteo symbolscheme symbols)
+zephyrix_export_rooms(foundation model astro meteo symbolscheme png symbols)
 zephyrix_export(images translations)
 install(FILES "${CMAKE_BINARY_DIR}/generated/symbolscheme/symbolscheme/SymbolTables.h"
         DESTINATION "${ZEPHYRIX_HEADERS_DIR}/symbolscheme" COMPONENT libraries)

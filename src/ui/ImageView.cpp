@@ -3,11 +3,13 @@
 #include <algorithm>
 
 #include <QEvent>
+#include <QFile>
 #include <QPainter>
 
 #include "DeviceGrid.h"
 #include "Theme.h"
 #include "foundation/Bundle.h"
+#include "png/PngImage.h"
 
 namespace zephyrix {
 
@@ -15,6 +17,12 @@ namespace {
 
 // Turning blurs by half a pixel, which is not seen when it happens at twice the size.
 constexpr int turnedAt = 2;
+
+QImage catalogueImage(const QString& path) {
+    constexpr int longestSide = 1024;  // pixels
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? readPng(file.readAll(), longestSide) : QImage();
+}
 
 }  // namespace
 
@@ -66,7 +74,7 @@ void ImageView::readCatalogueImage(const QSize& pixels) {
     const QString name = catalogueName();
     const QString half = Bundle::main().pathForImage(QStringLiteral("half/") + name);
     isHalf_ = !needsAll && !half.isEmpty();
-    image_ = QImage(isHalf_ ? half : Bundle::main().pathForImage(name));
+    image_ = catalogueImage(isHalf_ ? half : Bundle::main().pathForImage(name));
     ready_ = QImage();
 }
 
