@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include <QFontMetrics>
-
 #include "foundation/Log.h"
 #include "symbols/QKWeatherSymbols.h"
+#include "ui/SharedFont.h"
+#include "ui/Theme.h"
 
 namespace zephyrix {
 
@@ -22,7 +22,7 @@ LivePanel::LivePanel(WeatherFeed::BaseAddress feed, ExtensionContext& context, c
         controller_.setShowingAll(true);
     view_.layOut(size.width, size.scale);
     guard_.started();
-    if (!view_.fontMetrics().inFont(QLatin1Char('A')))  // boxes stand in for letters
+    if (!SharedFont(Theme::font(Theme::TextStyle::Words)).has(QLatin1Char('A')))
         logLine(QStringLiteral("no font is installed: texts cannot be read"));
     connect(&controller_.sharedDefaults(), &UserDefaults::changedByOthers, this,
             &LivePanel::takeNews);

@@ -3,11 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include <QFontMetricsF>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
-#include <QTextLayout>
 #include <QToolTip>
 
 #include "foundation/FatalError.h"
@@ -16,23 +14,11 @@ namespace zephyrix {
 
 namespace {
 
-double widestLine(const QString& text, const QFont& font, TextLine::Figures figures) {
+double widestLine(const QString& text, const SharedFont& font, TextLine::Figures figures) {
     double widest = 0.0;
     for (const QString& line : text.split(QLatin1Char('\n')))
         widest = std::max(widest, TextLine(line, font, figures).width());
     return widest;
-}
-
-QStringList wrapped(const QString& paragraph, const QFont& font, double width) {
-    QTextLayout layout(paragraph, font);
-    QStringList lines;
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width);
-        lines << paragraph.mid(line.textStart(), line.textLength()).trimmed();
-    }
-    layout.endLayout();
-    return lines;
 }
 
 }  // namespace
@@ -96,32 +82,31 @@ TextLine::Figures Label::figures() const {
                                             : TextLine::Figures::Proportional;
 }
 
-QFont Label::fittedFont(double width) const {
+SharedFont Label::fittedFont(double width) const {
     QFont font = styledFont();
     if (minimumScale_ >= 1.0)
-        return font;
+        return SharedFont(font);
     // Wrapped text needs room for its longest word only.
     const double natural =
         wordWrap() ? widestLine(text().simplified().replace(QLatin1Char(' '), QLatin1Char('\n')),
-                                font, figures())
-                   : widestLine(text(), font, figures());
+                                SharedFont(font), figures())
+                   : widestLine(text(), SharedFont(font), figures());
     if (natural <= width)
-        return font;
+        return SharedFont(font);
     const double scale = std::max(minimumScale_, width / natural);
     font.setPixelSize(std::max(1, static_cast<int>(std::floor(font.pixelSize() * scale))));
-    return font;
+    return SharedFont(font);
 }
 
-QStringList Label::linesIn(const QFont& font) const {
+QStringList Label::linesIn(const SharedFont& font) const {
     QStringList lines;
     for (const QString& paragraph : text().split(QLatin1Char('\n')))
         if (wordWrap())
-            for (const QString& line : wrapped(paragraph, font, width()))
+            for (const QString& line : font.wrapped(paragraph, width()))
                 lines << TextLine::elided(line, font, figures(), width());
         else
             lines << TextLine::elided(paragraph, font, figures(), width());
-    const auto room = std::max<qsizetype>(
-        1, static_cast<qsizetype>(height() / QFontMetricsF(font).lineSpacing()));
+    const auto room = std::max<qsizetype>(1, static_cast<qsizetype>(height() / font.lineSpacing()));
     if (wordWrap() && lines.size() > room) {
         const QString rest = lines.mid(room - 1).join(QLatin1Char(' '));
         lines = lines.mid(0, room - 1);
@@ -146,24 +131,22 @@ void Label::setExactFrame(const QRectF& frame) {
 }
 
 QSize Label::sizeHint() const {
-    const QFont font = styledFont();
-    const QFontMetricsF metrics(font);
+    const SharedFont font(styledFont());
     const auto breaks = static_cast<double>(text().count(QLatin1Char('\n')));
     const int gap = text().isEmpty() ? 0 : std::max(0, indent());
     return {static_cast<int>(std::ceil(widestLine(text(), font, figures()))) + gap,
-            static_cast<int>(std::ceil(metrics.height() + breaks * metrics.lineSpacing()))};
+            static_cast<int>(std::ceil(font.height() + breaks * font.lineSpacing()))};
 }
 
 int Label::heightForWidth(int width) const {
     if (!wordWrap())
         return -1;
-    const QFont font = fittedFont(width);
+    const SharedFont font = fittedFont(width);
     qsizetype lines = 0;
     for (const QString& paragraph : text().split(QLatin1Char('\n')))
-        lines += wrapped(paragraph, font, width).size();
-    const QFontMetricsF metrics(font);
+        lines += font.wrapped(paragraph, width).size();
     return static_cast<int>(
-        std::ceil(metrics.height() + static_cast<double>(lines - 1) * metrics.lineSpacing()));
+        std::ceil(font.height() + static_cast<double>(lines - 1) * font.lineSpacing()));
 }
 
 // A label may always become narrower: it elides.
@@ -171,24 +154,22 @@ QSize Label::minimumSizeHint() const {
     return {0, sizeHint().height()};
 }
 
-double Label::firstBaseline(const QFont& font, qsizetype lineCount) const {
-    const QFontMetricsF metrics(font);
+double Label::firstBaseline(const SharedFont& font, qsizetype lineCount) const {
     if (baseline_ >= 0)
         return height() - baseline_;
-    const double block =
-        metrics.height() + static_cast<double>(lineCount - 1) * metrics.lineSpacing();
+    const double block = font.height() + static_cast<double>(lineCount - 1) * font.lineSpacing();
     if (alignment() & Qt::AlignTop)
-        return metrics.ascent();
+        return font.ascent();
     if (alignment() & Qt::AlignBottom)
-        return height() - block + metrics.ascent();
-    return (height() - block) / 2.0 + metrics.ascent();
+        return height() - block + font.ascent();
+    return (height() - block) / 2.0 + font.ascent();
 }
 
 void Label::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     if (backgroundColor_.alpha() > 0)
         painter.fillRect(rect(), backgroundColor_);
-    const QFont font = fittedFont(width());
+    const SharedFont font = fittedFont(width());
     const QStringList lines = linesIn(font);
     painter.setPen(textColor());
     const auto side = QStyle::visualAlignment(layoutDirection(), alignment());
@@ -201,7 +182,7 @@ void Label::paintEvent(QPaintEvent* /*event*/) {
         else if (side & Qt::AlignHCenter)
             left = (width() - line.width()) / 2.0;
         line.draw(painter, left, baseline);
-        baseline += QFontMetricsF(font).lineSpacing();
+        baseline += font.lineSpacing();
     }
 }
 

@@ -60,9 +60,9 @@ class Label : public QLabel {
   private:
     [[nodiscard]] QFont styledFont() const;
     [[nodiscard]] TextLine::Figures figures() const;
-    [[nodiscard]] QFont fittedFont(double width) const;
-    [[nodiscard]] QStringList linesIn(const QFont& font) const;
-    [[nodiscard]] double firstBaseline(const QFont& font, qsizetype lineCount) const;
+    [[nodiscard]] SharedFont fittedFont(double width) const;
+    [[nodiscard]] QStringList linesIn(const SharedFont& font) const;
+    [[nodiscard]] double firstBaseline(const SharedFont& font, qsizetype lineCount) const;
 
     Theme::TextStyle style_ = Theme::TextStyle::Words;
     QString styleName_;

@@ -20,7 +20,7 @@ TextButton::TextButton(QWidget* parent) : QAbstractButton(parent) {
 QSize TextButton::sizeHint() const {
     constexpr int sideMargin = 12;  // points
     constexpr int height = 36;      // points
-    const TextLine line(text(), Theme::font(Theme::TextStyle::Button));
+    const TextLine line(text(), SharedFont(Theme::font(Theme::TextStyle::Button)));
     return {static_cast<int>(std::ceil(line.width())) + 2 * Theme::scaled(sideMargin),
             Theme::scaled(height)};
 }
@@ -29,14 +29,13 @@ void TextButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     if (isDown() || underMouse())
         PanelSurface::fill(painter, *this, Theme::color(Theme::Color::HoverShade));
-    const QFont font = Theme::font(Theme::TextStyle::Button);
-    const QFontMetricsF metrics(font);
+    const SharedFont font(Theme::font(Theme::TextStyle::Button));
     const TextLine line(
         TextLine::elided(text(), font, TextLine::Figures::Proportional, width() - 8.0), font);
     painter.setPen(Theme::color(isDown() ? Theme::Color::PrimaryText
                                          : Theme::textColor(Theme::TextStyle::Button)));
     line.draw(painter, (width() - line.width()) / 2.0,
-              (height() - metrics.height()) / 2.0 + metrics.ascent());
+              (height() - font.height()) / 2.0 + font.ascent());
     if (hasFocus() && showsFocus_)
         paintFocusRing(painter, QRectF(rect()));
 }

@@ -1,10 +1,6 @@
 #include "TextLine.h"
 
-#include <algorithm>
 #include <utility>
-
-#include <QFontMetricsF>
-#include <QPainter>
 
 namespace zephyrix {
 
@@ -14,35 +10,27 @@ bool isFigure(QChar character) {
     return character >= QLatin1Char('0') && character <= QLatin1Char('9');
 }
 
-double figureWidth(const QFontMetricsF& metrics) {
-    double widest = 0.0;
-    for (char digit = '0'; digit <= '9'; ++digit)
-        widest = std::max(widest, metrics.horizontalAdvance(QLatin1Char(digit)));
-    return widest;
-}
-
 }  // namespace
 
-TextLine::TextLine(QString text, const QFont& font, Figures figures)
+TextLine::TextLine(QString text, const SharedFont& font, Figures figures)
     : text_(std::move(text)), font_(font), figures_(figures) {}
 
 // Calls visit(run, its width, its offset inside that width): a run is one figure, or all between
 // two.
 template <class Visit>
 void TextLine::visitRuns(const Visit& visit) const {
-    const QFontMetricsF metrics(font_);
     if (figures_ == Figures::Proportional || text_.isRightToLeft()) {
-        visit(text_, metrics.horizontalAdvance(text_), 0.0);
+        visit(text_, font_.width(text_), 0.0);
         return;
     }
-    const double cell = figureWidth(metrics);
+    const double cell = font_.figureWidth();
     for (qsizetype at = 0; at < text_.size();) {
         qsizetype end = at + 1;
         const bool figure = isFigure(text_[at]);
         while (!figure && end < text_.size() && !isFigure(text_[end]))
             ++end;
         const QString run = text_.mid(at, end - at);
-        const double advance = metrics.horizontalAdvance(run);
+        const double advance = font_.width(run);
         visit(run, figure ? cell : advance, figure ? (cell - advance) / 2.0 : 0.0);
         at = end;
     }
@@ -55,24 +43,23 @@ double TextLine::width() const {
 }
 
 void TextLine::draw(QPainter& painter, double left, double baseline) const {
-    painter.setFont(font_);
     double x = left;
     visitRuns([&](const QString& run, double width, double offset) {
-        painter.drawText(QPointF(x + offset, baseline), run);
+        font_.draw(painter, x + offset, baseline, run);
         x += width;
     });
 }
 
-QString TextLine::elided(const QString& text, const QFont& font, Figures figures, double width) {
+QString TextLine::elided(const QString& text, const SharedFont& font, Figures figures,
+                         double width) {
     if (TextLine(text, font, figures).width() <= width)
         return text;
     // Tabular figures are wider than the font's own: ask for a little less until it fits.
-    const QFontMetricsF metrics(font);
     double room = width;
-    QString shorter = metrics.elidedText(text, Qt::ElideRight, room);
+    QString shorter = font.elided(text, room);
     while (room > 2.0 && TextLine(shorter, font, figures).width() > width) {
         room -= 2.0;
-        shorter = metrics.elidedText(text, Qt::ElideRight, room);
+        shorter = font.elided(text, room);
     }
     return shorter;
 }

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QFont>
 #include <QString>
+
+#include "SharedFont.h"
 
 class QPainter;
 
@@ -13,22 +14,22 @@ class TextLine {
   public:
     enum class Figures : bool { Proportional, Tabular };
 
-    TextLine(QString text, const QFont& font, Figures figures = Figures::Proportional);
+    TextLine(QString text, const SharedFont& font, Figures figures = Figures::Proportional);
 
     [[nodiscard]] double width() const;  // points
     /// `baseline` and `left` in points of the painter.
     void draw(QPainter& painter, double left, double baseline) const;
 
     /// The text itself when it fits, else its beginning and "…".
-    [[nodiscard]] static QString elided(const QString& text, const QFont& font, Figures figures,
-                                        double width);
+    [[nodiscard]] static QString elided(const QString& text, const SharedFont& font,
+                                        Figures figures, double width);
 
   private:
     template <class Visit>
     void visitRuns(const Visit& visit) const;
 
     QString text_;
-    QFont font_;
+    SharedFont font_;
     Figures figures_;
 };
 

@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QFontDatabase>
 #include <QPalette>
 #include <QScreen>
 #include <QWidget>
@@ -53,16 +52,15 @@ struct TextStyleRow {
 };
 
 constexpr std::array textStyleTable = {
-    TextStyleRow{TextStyle::Title, "title", 15.0, QFont::DemiBold, Color::PrimaryText, false},
+    TextStyleRow{TextStyle::Title, "title", 15.0, QFont::Medium, Color::PrimaryText, false},
     TextStyleRow{TextStyle::Time, "time", 12.0, QFont::Normal, Color::SecondaryText, false},
     TextStyleRow{TextStyle::Strong, "strong", 34.0, QFont::Light, Color::PrimaryText, false},
     TextStyleRow{TextStyle::Words, "words", 12.5, QFont::Normal, Color::PrimaryText, false},
     TextStyleRow{TextStyle::Value, "value", 15.0, QFont::Medium, Color::PrimaryText, true},
     TextStyleRow{TextStyle::Unit, "unit", 10.5, QFont::Normal, Color::SecondaryText, true},
-    TextStyleRow{TextStyle::WindSpeed, "windSpeed", 16.0, QFont::DemiBold, Color::PrimaryText,
-                 false},
+    TextStyleRow{TextStyle::WindSpeed, "windSpeed", 16.0, QFont::Medium, Color::PrimaryText, false},
     TextStyleRow{TextStyle::Day, "day", 11.5, QFont::Medium, Color::SecondaryText, false},
-    TextStyleRow{TextStyle::High, "high", 13.0, QFont::DemiBold, Color::PrimaryText, true},
+    TextStyleRow{TextStyle::High, "high", 13.0, QFont::Medium, Color::PrimaryText, true},
     TextStyleRow{TextStyle::Low, "low", 13.0, QFont::Normal, Color::SecondaryText, true},
     TextStyleRow{TextStyle::Button, "button", 12.5, QFont::Medium, Color::SecondaryText, false},
     TextStyleRow{TextStyle::Message, "message", 14.0, QFont::Normal, Color::PrimaryText, false},
@@ -78,10 +76,9 @@ std::optional<Scheme>& givenScheme() {
 }
 
 // Inter reads best with Latin and Cyrillic at these sizes; without it the desktop's own font is
-// used.
-QString fontFamily() {
-    static const bool hasInter = QFontDatabase::hasFamily(QStringLiteral("Inter"));
-    return hasInter ? QStringLiteral("Inter") : QApplication::font().family();
+// used. To ask whether it is there would be to ask the font configuration once more.
+QStringList fontFamilies() {
+    return {QStringLiteral("Inter"), QApplication::font().family()};
 }
 
 }  // namespace
@@ -114,7 +111,7 @@ QColor Theme::color(Color color, Scheme scheme) {
 
 QFont Theme::font(TextStyle style) {
     const TextStyleRow& row = rowOf(style);
-    QFont font(fontFamily());
+    QFont font(fontFamilies());
     font.setPixelSize(scaled(row.size));
     font.setWeight(row.weight);
     font.setHintingPreference(QFont::PreferNoHinting);

@@ -68,7 +68,7 @@ TEST(Label, NoLineIsWiderThanTheView) {
             label.setText(QStringLiteral("Переменная облачность\nSchneeregenschauer 1111"));
             label.resize(width, 40);
             for (const QString& line : label.displayedLines())
-                EXPECT_LE(TextLine(line, Theme::font(Theme::TextStyle::Words)).width(),
+                EXPECT_LE(TextLine(line, SharedFont(Theme::font(Theme::TextStyle::Words))).width(),
                           width + 0.01)
                     << qPrintable(line) << " in " << width;
         }
@@ -89,7 +89,7 @@ TEST(Label, DifferentSizesShareABaseline) {
 }
 
 TEST(TextLine, TabularFiguresHaveOneWidth) {
-    const QFont font = Theme::font(Theme::TextStyle::Value);
+    const SharedFont font(Theme::font(Theme::TextStyle::Value));
     const auto width = [&](const char* text, TextLine::Figures figures) {
         return TextLine(QString::fromLatin1(text), font, figures).width();
     };
