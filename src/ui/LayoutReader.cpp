@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <memory>
 #include <utility>
 
 #include <QBoxLayout>
@@ -40,57 +39,54 @@ int scaledLength(const QString& text) {
 }
 
 /// The lengths of the elements inside this one, in their order.
-QList<int> lengthsInside(QXmlStreamReader& xml) {
+QList<int> lengthsInside(const XmlElement& value) {
     QList<int> numbers;
-    while (xml.readNextStartElement())
-        numbers << scaledLength(xml.readElementText());
+    for (const XmlElement& length : value.children)
+        numbers << scaledLength(length.text);
     numbers.resize(4);  // a rectangle has the most
     return numbers;
 }
 
-QStringList textsInside(QXmlStreamReader& xml) {
+QStringList textsInside(const XmlElement& value) {
     QStringList texts;
-    while (xml.readNextStartElement())
-        texts << xml.readElementText();
+    for (const XmlElement& text : value.children)
+        texts << text.text;
     return texts;
 }
 
-QSizePolicy sizePolicyIn(QXmlStreamReader& xml) {
-    const auto attributes = xml.attributes();
+QSizePolicy sizePolicyIn(const XmlElement& value) {
     const auto policy = [&](const char* name) {
-        return valueOf<QSizePolicy::Policy>(attributes.value(QLatin1String(name)).toString());
+        return valueOf<QSizePolicy::Policy>(value.attribute(name));
     };
-    const QSizePolicy sizePolicy(policy("hsizetype"), policy("vsizetype"));
-    xml.skipCurrentElement();
-    return sizePolicy;
+    return {policy("hsizetype"), policy("vsizetype")};
 }
 
 struct ValueRow {
     const char* element;
-    QVariant (*read)(QXmlStreamReader& xml);
+    QVariant (*read)(const XmlElement& value);
 };
 
 constexpr std::array valueTable{
-    ValueRow{"number", [](auto& xml) { return QVariant(scaledLength(xml.readElementText())); }},
-    ValueRow{"double", [](auto& xml) { return QVariant(xml.readElementText().toDouble()); }},
+    ValueRow{"number", [](const auto& value) { return QVariant(scaledLength(value.text)); }},
+    ValueRow{"double", [](const auto& value) { return QVariant(value.text.toDouble()); }},
     ValueRow{"bool",
-             [](auto& xml) { return QVariant(xml.readElementText() == QLatin1String("true")); }},
-    ValueRow{"string", [](auto& xml) { return QVariant(xml.readElementText()); }},
+             [](const auto& value) { return QVariant(value.text == QLatin1String("true")); }},
+    ValueRow{"string", [](const auto& value) { return QVariant(value.text); }},
     // The property itself knows what the keys mean.
-    ValueRow{"enum", [](auto& xml) { return QVariant(xml.readElementText()); }},
-    ValueRow{"set", [](auto& xml) { return QVariant(xml.readElementText()); }},
+    ValueRow{"enum", [](const auto& value) { return QVariant(value.text); }},
+    ValueRow{"set", [](const auto& value) { return QVariant(value.text); }},
     ValueRow{"size",
-             [](auto& xml) {
-                 const auto numbers = lengthsInside(xml);
+             [](const auto& value) {
+                 const auto numbers = lengthsInside(value);
                  return QVariant(QSize(numbers[0], numbers[1]));
              }},
     ValueRow{"rect",
-             [](auto& xml) {
-                 const auto numbers = lengthsInside(xml);
+             [](const auto& value) {
+                 const auto numbers = lengthsInside(value);
                  return QVariant(QRect(numbers[0], numbers[1], numbers[2], numbers[3]));
              }},
-    ValueRow{"stringlist", [](auto& xml) { return QVariant(textsInside(xml)); }},
-    ValueRow{"sizepolicy", [](auto& xml) { return QVariant(sizePolicyIn(xml)); }},
+    ValueRow{"stringlist", [](const auto& value) { return QVariant(textsInside(value)); }},
+    ValueRow{"sizepolicy", [](const auto& value) { return QVariant(sizePolicyIn(value)); }},
 };
 
 struct MarginRow {
@@ -129,14 +125,42 @@ bool setGridSpacing(QLayout& layout, const QString& name, int points) {
     return true;
 }
 
-}  // namespace
+void setStretches(const XmlElement& element, QLayout& layout) {
+    if (auto* const box = qobject_cast<QBoxLayout*>(&layout)) {
+        const QList<int> stretch = numbersIn(element.attribute("stretch"));
+        for (int index = 0; index < stretch.size(); ++index)
+            box->setStretch(index, stretch[index]);
+    }
+    if (auto* const grid = qobject_cast<QGridLayout*>(&layout)) {
+        const QList<int> rows = numbersIn(element.attribute("rowstretch"));
+        for (int row = 0; row < rows.size(); ++row)
+            grid->setRowStretch(row, rows[row]);
+        const QList<int> columns = numbersIn(element.attribute("columnstretch"));
+        for (int column = 0; column < columns.size(); ++column)
+            grid->setColumnStretch(column, columns[column]);
+    }
+}
 
-struct LayoutReader::Cell {
+/// Where in its layout an item is.
+struct Cell {
     int row = 0;
     int column = 0;
     int rows = 1;
     int columns = 1;
     Qt::Alignment alignment;
+
+    explicit Cell(const XmlElement& item) {
+        const auto number = [&](const char* name, int otherwise) {
+            const QString text = item.attribute(name);
+            return text.isEmpty() ? otherwise : text.toInt();
+        };
+        row = number("row", 0);
+        column = number("column", 0);
+        rows = number("rowspan", 1);
+        columns = number("colspan", 1);
+        if (const QString keys = item.attribute("alignment"); !keys.isEmpty())
+            alignment = valueOf<Qt::Alignment>(keys);
+    }
 
     void add(QLayout& layout, QWidget* view) const {
         if (auto* const grid = qobject_cast<QGridLayout*>(&layout))
@@ -158,74 +182,62 @@ struct LayoutReader::Cell {
     }
 };
 
-LayoutReader::LayoutReader(QString name, const QByteArray& description, MakeWidget makeWidget)
-    : name_(std::move(name)), xml_(description), makeWidget_(std::move(makeWidget)) {}
+}  // namespace
 
-QWidget* LayoutReader::read(QWidget* parent) {
-    std::unique_ptr<QWidget> root;
-    if (xml_.readNextStartElement() && xml_.name() == QLatin1String("ui"))
-        while (xml_.readNextStartElement()) {
-            if (xml_.name() == QLatin1String("widget") && !root)
-                root.reset(readWidget(parent));
-            else
-                xml_.skipCurrentElement();  // for an editor or a compiler
-        }
-    if (xml_.hasError())
+LayoutReader::LayoutReader(QString name, const MakeWidget& makeWidget)
+    : name_(std::move(name)), makeWidget_(makeWidget) {}
+
+QWidget* LayoutReader::makeRoot(const XmlElement& description, QWidget* parent) const {
+    if (!description.is("ui"))
         return nullptr;
-    return root.release();
+    const auto root = std::ranges::find(description.children, "widget", &XmlElement::name);
+    return root == description.children.end() ? nullptr : makeView(*root, parent);
 }
 
-QString LayoutReader::errorString() const {
-    return xml_.hasError() ? xml_.errorString() : QStringLiteral("it describes no view");
-}
-
-QWidget* LayoutReader::readWidget(QWidget* parent) {
-    const QString className = attribute("class");
+QWidget* LayoutReader::makeView(const XmlElement& element, QWidget* parent) const {
+    const QString className = element.attribute("class");
     QWidget* const view = makeWidget_(className, parent);
     if (view == nullptr)
         stop(QStringLiteral("asks for the unknown class \"%1\"").arg(className));
-    view->setObjectName(attribute("name"));
-    while (xml_.readNextStartElement()) {
-        if (xml_.name() == QLatin1String("property")) {
-            readProperty(*view);
-        } else if (xml_.name() == QLatin1String("widget")) {
-            static_cast<void>(readWidget(view));
-        } else if (xml_.name() == QLatin1String("layout")) {
-            QLayout* const layout = makeLayout();
+    view->setObjectName(element.attribute("name"));
+    for (const XmlElement& part : element.children) {
+        if (part.is("property")) {
+            setProperty(*view, part);
+        } else if (part.is("widget")) {
+            static_cast<void>(makeView(part, view));
+        } else if (part.is("layout")) {
+            QLayout* const layout = makeLayout(part);
             view->setLayout(layout);
-            readLayout(*view, *layout);
+            fillLayout(part, *view, *layout);
         } else {
-            stopAtElement();
+            stopAt(part);
         }
     }
     return view;
 }
 
-void LayoutReader::readProperty(QObject& object) {
-    const QByteArray name = attribute("name").toLatin1();
-    const QVariant value = readValue();
+void LayoutReader::setProperty(QObject& object, const XmlElement& property) const {
+    const QByteArray name = property.attribute("name").toLatin1();
     const QMetaObject* const kind = object.metaObject();
     const int index = kind->indexOfProperty(name.constData());
-    if (!xml_.hasError() && (index < 0 || !kind->property(index).write(&object, value)))
+    if (index < 0 || !kind->property(index).write(&object, valueIn(property)))
         stop(QStringLiteral("gives \"%1\" a \"%2\" that it cannot have")
                  .arg(object.objectName(), QLatin1String(name)));
 }
 
-QVariant LayoutReader::readValue() {
-    if (!xml_.readNextStartElement())
+QVariant LayoutReader::valueIn(const XmlElement& property) const {
+    if (property.children.empty())
         return {};
-    const auto row = std::ranges::find_if(valueTable, [this](const ValueRow& each) {
-        return xml_.name() == QLatin1String(each.element);
-    });
+    const XmlElement& value = property.children.front();
+    const auto row = std::ranges::find_if(
+        valueTable, [&](const ValueRow& each) { return value.is(each.element); });
     if (row == valueTable.end())
-        stopAtElement();
-    QVariant value = row->read(xml_);
-    xml_.skipCurrentElement();  // to the end of the property
-    return value;
+        stopAt(value);
+    return row->read(value);
 }
 
-QLayout* LayoutReader::makeLayout() const {
-    const QString className = attribute("class");
+QLayout* LayoutReader::makeLayout(const XmlElement& element) const {
+    const QString className = element.attribute("class");
     QLayout* layout = nullptr;
     if (className == QLatin1String("QHBoxLayout"))
         layout = new QHBoxLayout;
@@ -235,36 +247,25 @@ QLayout* LayoutReader::makeLayout() const {
         layout = new QGridLayout;
     else
         stop(QStringLiteral("asks for the unknown layout \"%1\"").arg(className));
-    layout->setObjectName(attribute("name"));
+    layout->setObjectName(element.attribute("name"));
     return layout;
 }
 
-void LayoutReader::readLayout(QWidget& view, QLayout& layout) {
-    const QList<int> stretch = numbersIn(attribute("stretch"));
-    const QList<int> rowStretch = numbersIn(attribute("rowstretch"));
-    const QList<int> columnStretch = numbersIn(attribute("columnstretch"));
-    while (xml_.readNextStartElement()) {
-        if (xml_.name() == QLatin1String("property"))
-            readLayoutProperty(layout);
-        else if (xml_.name() == QLatin1String("item"))
-            readItem(view, layout);
+void LayoutReader::fillLayout(const XmlElement& element, QWidget& view, QLayout& layout) const {
+    for (const XmlElement& part : element.children) {
+        if (part.is("property"))
+            setLayoutProperty(layout, part);
+        else if (part.is("item"))
+            addItem(part, view, layout);
         else
-            stopAtElement();
+            stopAt(part);
     }
-    if (auto* const box = qobject_cast<QBoxLayout*>(&layout))
-        for (int index = 0; index < stretch.size(); ++index)
-            box->setStretch(index, stretch[index]);
-    if (auto* const grid = qobject_cast<QGridLayout*>(&layout)) {
-        for (int row = 0; row < rowStretch.size(); ++row)
-            grid->setRowStretch(row, rowStretch[row]);
-        for (int column = 0; column < columnStretch.size(); ++column)
-            grid->setColumnStretch(column, columnStretch[column]);
-    }
+    setStretches(element, layout);
 }
 
-void LayoutReader::readLayoutProperty(QLayout& layout) {
-    const QString name = attribute("name");
-    const int points = readValue().toInt();
+void LayoutReader::setLayoutProperty(QLayout& layout, const XmlElement& property) const {
+    const QString name = property.attribute("name");
+    const int points = valueIn(property).toInt();
     if (name == QLatin1String("spacing"))
         layout.setSpacing(points);
     else if (!setMargin(layout, name, points) && !setGridSpacing(layout, name, points))
@@ -272,41 +273,31 @@ void LayoutReader::readLayoutProperty(QLayout& layout) {
                  .arg(layout.objectName(), name));
 }
 
-void LayoutReader::readItem(QWidget& view, QLayout& layout) {
-    const Cell cell = cellOfItem();
-    if (!xml_.readNextStartElement())
+void LayoutReader::addItem(const XmlElement& item, QWidget& view, QLayout& layout) const {
+    if (item.children.empty())
         return;
-    if (xml_.name() == QLatin1String("widget")) {
-        cell.add(layout, readWidget(&view));
-    } else if (xml_.name() == QLatin1String("spacer")) {
-        cell.add(layout, readSpacer());
-    } else if (xml_.name() == QLatin1String("layout")) {
-        QLayout* const inner = makeLayout();
+    const Cell cell(item);
+    const XmlElement& content = item.children.front();
+    if (content.is("widget")) {
+        cell.add(layout, makeView(content, &view));
+    } else if (content.is("spacer")) {
+        cell.add(layout, makeSpacer(content));
+    } else if (content.is("layout")) {
+        QLayout* const inner = makeLayout(content);
         cell.add(layout, inner);
-        readLayout(view, *inner);
+        fillLayout(content, view, *inner);
     } else {
-        stopAtElement();
+        stopAt(content);
     }
-    xml_.skipCurrentElement();  // to the end of the item
 }
 
-LayoutReader::Cell LayoutReader::cellOfItem() const {
-    const auto number = [this](const char* name, int otherwise) {
-        const QString text = attribute(name);
-        return text.isEmpty() ? otherwise : text.toInt();
-    };
-    const QString alignment = attribute("alignment");
-    return {number("row", 0), number("column", 0), number("rowspan", 1), number("colspan", 1),
-            alignment.isEmpty() ? Qt::Alignment() : valueOf<Qt::Alignment>(alignment)};
-}
-
-QSpacerItem* LayoutReader::readSpacer() {
+QSpacerItem* LayoutReader::makeSpacer(const XmlElement& element) const {
     bool isVertical = false;
     auto kind = QSizePolicy::Expanding;
     QSize size;
-    while (xml_.readNextStartElement()) {
-        const QString name = attribute("name");
-        const QVariant value = readValue();
+    for (const XmlElement& property : element.children) {
+        const QString name = property.attribute("name");
+        const QVariant value = valueIn(property);
         if (name == QLatin1String("orientation"))
             isVertical = value.toString() == QLatin1String("Qt::Vertical");
         else if (name == QLatin1String("sizeType"))
@@ -320,16 +311,12 @@ QSpacerItem* LayoutReader::readSpacer() {
                            isVertical ? kind : QSizePolicy::Minimum);
 }
 
-QString LayoutReader::attribute(const char* name) const {
-    return xml_.attributes().value(QLatin1String(name)).toString();
-}
-
 void LayoutReader::stop(const QString& mistake) const {
     fatalError(QStringLiteral("the layout \"%1\" %2").arg(name_, mistake));
 }
 
-void LayoutReader::stopAtElement() const {
-    stop(QStringLiteral("has an unknown element <%1>").arg(xml_.name()));
+void LayoutReader::stopAt(const XmlElement& element) const {
+    stop(QStringLiteral("has an unknown element <%1>").arg(QLatin1String(element.name)));
 }
 
 }  // namespace zephyrix

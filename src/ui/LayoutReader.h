@@ -2,12 +2,12 @@
 
 #include <functional>
 
-#include <QByteArray>
 #include <QLayout>
 #include <QString>
 #include <QVariant>
 #include <QWidget>
-#include <QXmlStreamReader>
+
+#include "XmlTree.h"
 
 namespace zephyrix {
 
@@ -16,38 +16,31 @@ namespace zephyrix {
 /// is passed over. The toolkit's own reader knows all of the format, but takes part in every start
 /// with two graphics libraries and several milliseconds.
 ///
-/// What is no XML gives no view. A mistake in what the description says (an unknown property, a
-/// value that it cannot have, an unknown element) stops the process with a line that names it.
+/// A mistake in what the description says (an unknown property, a value that it cannot have, an
+/// unknown element) stops the process with a line that names it.
 class LayoutReader {
   public:
     /// A widget of a class by its plain name, or null where that is not known.
     using MakeWidget = std::function<QWidget*(const QString& className, QWidget* parent)>;
 
-    /// One reader makes one tree of views.
-    LayoutReader(QString name, const QByteArray& description, MakeWidget makeWidget);
+    LayoutReader(QString name, const MakeWidget& makeWidget);
 
-    /// The root view, or null; then errorString() says why.
-    [[nodiscard]] QWidget* read(QWidget* parent);
-    [[nodiscard]] QString errorString() const;
+    /// The view that a "ui" element describes, or null when it describes none.
+    [[nodiscard]] QWidget* makeRoot(const XmlElement& description, QWidget* parent) const;
 
   private:
-    struct Cell;  // where in its layout an item is
-
-    [[nodiscard]] QWidget* readWidget(QWidget* parent);
-    void readProperty(QObject& object);
-    [[nodiscard]] QVariant readValue();
-    void readLayout(QWidget& view, QLayout& layout);
-    void readLayoutProperty(QLayout& layout);
-    void readItem(QWidget& view, QLayout& layout);
-    [[nodiscard]] QLayout* makeLayout() const;
-    [[nodiscard]] QSpacerItem* readSpacer();
-    [[nodiscard]] Cell cellOfItem() const;
-    [[nodiscard]] QString attribute(const char* name) const;
+    [[nodiscard]] QWidget* makeView(const XmlElement& element, QWidget* parent) const;
+    void setProperty(QObject& object, const XmlElement& property) const;
+    [[nodiscard]] QVariant valueIn(const XmlElement& property) const;
+    [[nodiscard]] QLayout* makeLayout(const XmlElement& element) const;
+    void fillLayout(const XmlElement& element, QWidget& view, QLayout& layout) const;
+    void setLayoutProperty(QLayout& layout, const XmlElement& property) const;
+    void addItem(const XmlElement& item, QWidget& view, QLayout& layout) const;
+    [[nodiscard]] QSpacerItem* makeSpacer(const XmlElement& element) const;
     [[noreturn]] void stop(const QString& mistake) const;
-    [[noreturn]] void stopAtElement() const;
+    [[noreturn]] void stopAt(const XmlElement& element) const;
 
     QString name_;
-    QXmlStreamReader xml_;
     MakeWidget makeWidget_;
 };
 

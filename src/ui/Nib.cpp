@@ -59,17 +59,27 @@ void visitChildrenFirst(QWidget* root, const Visit& visit) {
 Nib::Nib(QString name) : name_(std::move(name)) {}
 
 Nib::Nib(QString name, const QByteArray& description)
-    : name_(std::move(name)), description_(description) {}
+    : name_(std::move(name)), text_(description) {}
+
+const XmlElement* Nib::description() const {
+    if (!text_)
+        text_ = Bundle::main().layout(name_).value_or(QByteArray());
+    if (!tree_ && !text_->isEmpty()) {
+        QString problem;
+        tree_ = readXml(*text_, problem);
+        if (!tree_)
+            logLine(QStringLiteral("layout \"%1\": %2").arg(name_, problem));
+    }
+    return tree_ ? &*tree_ : nullptr;
+}
 
 QWidget* Nib::instantiate(QWidget* parent) const {
-    if (!description_)
-        description_ = Bundle::main().layout(name_).value_or(QByteArray());
-    if (description_->isEmpty())
+    const XmlElement* const description = this->description();
+    if (description == nullptr)
         return nullptr;
-    LayoutReader reader(name_, *description_, newWidget);
-    QWidget* const root = reader.read(parent);
+    QWidget* const root = LayoutReader(name_, newWidget).makeRoot(*description, parent);
     if (root == nullptr) {
-        logLine(QStringLiteral("layout \"%1\": %2").arg(name_, reader.errorString()));
+        logLine(QStringLiteral("layout \"%1\": it describes no view").arg(name_));
         return nullptr;
     }
     visitChildrenFirst(root, [](NibObject& object) { object.connectOutlets(); });

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QWidget>
 
+#include "XmlTree.h"
 #include "foundation/FatalError.h"
 
 namespace zephyrix {
@@ -61,8 +62,13 @@ class Nib {
     static void registerClass(const char* qualifiedName, const Factory& factory);
 
   private:
+    /// Null when there is none.
+    [[nodiscard]] const XmlElement* description() const;
+
     QString name_;
-    mutable std::optional<QByteArray> description_;  // read from the bundle when it is needed
+    // Read from the bundle, and into a tree, when they are needed.
+    mutable std::optional<QByteArray> text_;
+    mutable std::optional<XmlElement> tree_;
 };
 
 /// The view of this name below `root`. A missing one, or one of another class, is a mistake in the
