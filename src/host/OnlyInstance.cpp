@@ -1,21 +1,22 @@
 #include "OnlyInstance.h"
 
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 #include <QFile>
-#include <QLocalSocket>
 #include <QStandardPaths>
 
+#include "DescriptorWatch.h"
+#include "StartSocket.h"
 #include "foundation/Log.h"
 
 namespace zephyrix {
 
 namespace {
-
-constexpr int patience = 2000;  // milliseconds that a running panel has to take the request
 
 /// Of two starts at the same moment, one waits here until the other listens.
 class StartTurn {
@@ -43,47 +44,59 @@ QString displayName() {
     return name.replace(QLatin1Char('/'), QLatin1Char('_'));
 }
 
+bool showOther(const QString& path) {
+    const StartSocket::Reply reply = StartSocket::ask(path);
+    if (reply == StartSocket::Reply::Silence)
+        logLine(QStringLiteral("the panel that runs already does not answer"));
+    return reply != StartSocket::Reply::Nobody;
+}
+
 }  // namespace
 
+/// Hears the starts to come. Its socket's file goes with it.
+class OnlyInstance::Listener : public DescriptorWatch {
+  public:
+    Listener(int descriptor, QString path, OnlyInstance& instance)
+        : DescriptorWatch(descriptor, QStringLiteral("other starts")),
+          path_(std::move(path)),
+          instance_(instance) {}
+    ~Listener() override { QFile::remove(path_); }
+    Listener(const Listener&) = delete;
+    Listener& operator=(const Listener&) = delete;
+
+  protected:
+    void ready() override {
+        if (StartSocket::answer(descriptor()))
+            Q_EMIT instance_.shownAgain();
+    }
+
+  private:
+    QString path_;
+    OnlyInstance& instance_;
+};
+
 OnlyInstance::OnlyInstance(const QString& folder) {
-    const QString socket =
+    const QString path =
         QStringLiteral("%1/zephyrix-panel%2")
             .arg(folder.isEmpty()
                      ? QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation)
                      : folder,
                  displayName());
-    const StartTurn turn(socket + QStringLiteral(".lock"));
-    taken_ = showOther(socket);
+    const StartTurn turn(path + QStringLiteral(".lock"));
+    taken_ = showOther(path);
     if (!taken_)
-        listen(socket);
+        listen(path);
 }
 
-bool OnlyInstance::showOther(const QString& socket) {
-    QLocalSocket other;
-    other.connectToServer(socket);
-    if (!other.waitForConnected(patience))
-        return false;
-    if (!other.waitForDisconnected(patience))
-        logLine(QStringLiteral("the panel that runs already does not answer"));
-    return true;
-}
+OnlyInstance::~OnlyInstance() = default;
 
-void OnlyInstance::listen(const QString& socket) {
-    QLocalServer::removeServer(socket);
-    server_.setSocketOptions(QLocalServer::UserAccessOption);
-    connect(&server_, &QLocalServer::newConnection, this, &OnlyInstance::welcome);
-    if (!server_.listen(socket))
+void OnlyInstance::listen(const QString& path) {
+    const int descriptor = StartSocket::listen(path);
+    if (descriptor >= 0)
+        listener_ = std::make_unique<Listener>(descriptor, path, *this);
+    else
         logLine(QStringLiteral("a second start will not find this panel: %1: %2")
-                    .arg(socket, server_.errorString()));
-}
-
-// To connect is the whole request; to be disconnected the answer.
-void OnlyInstance::welcome() {
-    while (QLocalSocket* other = server_.nextPendingConnection()) {
-        other->disconnectFromServer();
-        other->deleteLater();
-    }
-    Q_EMIT shownAgain();
+                    .arg(path, qt_error_string()));
 }
 
 }  // namespace zephyrix

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QLocalServer>
+#include <memory>
+
 #include <QObject>
 #include <QString>
 
@@ -16,6 +17,7 @@ class OnlyInstance : public QObject {
   public:
     /// The folder must exist; that of the user's session unless given.
     explicit OnlyInstance(const QString& folder = {});
+    ~OnlyInstance() override;
 
     /// Whether another panel runs already: it has been asked to show itself. Where nothing can be
     /// asked and nothing be listened on, every start is a panel of its own, after one line in the
@@ -26,11 +28,11 @@ class OnlyInstance : public QObject {
     void shownAgain();
 
   private:
-    [[nodiscard]] static bool showOther(const QString& socket);
-    void listen(const QString& socket);
-    void welcome();
+    class Listener;
 
-    QLocalServer server_;
+    void listen(const QString& path);
+
+    std::unique_ptr<Listener> listener_;  // null when nobody will be heard
     bool taken_ = false;
 };
 

@@ -2,12 +2,14 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
+#include <utility>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QThread>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "host/OnlyInstance.h"
@@ -18,6 +20,8 @@ namespace zephyrix {
 namespace {
 
 using namespace zephyrix::testing;
+using ::testing::AllOf;
+using ::testing::HasSubstr;
 
 /// As another process does: the one that runs has its event loop meanwhile.
 bool startIsTaken(const QString& folder) {
@@ -66,8 +70,28 @@ TEST(OnlyInstance, WhatAKilledPanelLeftIsReplaced) {
     EXPECT_TRUE(startIsTaken(folder));
 }
 
-TEST(OnlyInstance, WithoutAFolderEveryStartIsAPanel) {
-    EXPECT_FALSE(OnlyInstance(QStringLiteral("/nowhere")).isTaken());
+TEST(OnlyInstance, PanelThatHangsIsTakenForOneThatRuns) {
+    const QString folder = freshFolder();
+    const OnlyInstance first(folder);
+    ::testing::internal::CaptureStderr();
+    const OnlyInstance second(folder);  // the event loop, by which the first answers, does not run
+    EXPECT_TRUE(second.isTaken());
+    EXPECT_THAT(::testing::internal::GetCapturedStderr(), HasSubstr("does not answer"));
+}
+
+TEST(OnlyInstance, WhereNothingCanBeListenedOnEveryStartIsAPanel) {
+    const QString deep = freshFolder() + QLatin1Char('/') + QString(100, QLatin1Char('d'));
+    ASSERT_TRUE(QDir().mkpath(deep));
+    for (const auto& [folder, why] : {std::pair(QStringLiteral("/nowhere"), "No such file"),
+                                      std::pair(deep, "File name too long")}) {
+        for (int start = 0; start < 2; ++start) {
+            ::testing::internal::CaptureStderr();
+            EXPECT_FALSE(OnlyInstance(folder).isTaken());
+            EXPECT_THAT(
+                ::testing::internal::GetCapturedStderr(),
+                AllOf(HasSubstr("a second start will not find this panel"), HasSubstr(why)));
+        }
+    }
 }
 
 }  // namespace
