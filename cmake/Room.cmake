@@ -39,12 +39,35 @@ function(zephyrix_program name)
     install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endfunction()
 
+# A part of a program that it loads when it first needs it, with the libraries that only this part
+# needs. It gives what it marks by Q_DECL_EXPORT and nothing else, and knows its version.
+#
+#   zephyrix_module(<name> SOURCES <files...> USES <libraries and rooms...>)
+#
+# Programs find it in the folder ZEPHYRIX_MODULES_DIR as seen from their own.
+file(RELATIVE_PATH ZEPHYRIX_MODULES_DIR
+    "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}/zephyrix")
+function(zephyrix_module name)
+    cmake_parse_arguments(PARSE_ARGV 1 module "" "" "SOURCES;USES")
+    add_library(${name} MODULE ${module_SOURCES})
+    target_link_libraries(${name} PRIVATE ${module_USES} zephyrix_compiler)
+    target_compile_definitions(${name} PRIVATE ZEPHYRIX_VERSION="${PROJECT_VERSION}")
+    # What comes from the rooms' libraries stays inside, too: the program has its own of it.
+    target_link_options(${name} PRIVATE LINKER:--exclude-libs,ALL LINKER:--as-needed)
+    set_target_properties(${name} PROPERTIES
+        PREFIX ""
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        LIBRARY_OUTPUT_DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${ZEPHYRIX_MODULES_DIR}")
+    install(TARGETS ${name} LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}/zephyrix")
+endfunction()
+
 # The tests of a room: one program, one entry of ctest. It links that room and nothing above it.
 #
 #   zephyrix_test(<name> SOURCES <files...> USES <libraries and rooms...> [PRELUDE <name>])
 #
-# Its files find their reference data below TEST_DATA_DIR. They begin with the prelude "test" unless
-# one is named.
+# Its files find their reference data below TEST_DATA_DIR, the programs in PROGRAM_DIR, and modules in
+# MODULES_DIR as seen from there. They begin with the prelude "test" unless one is named.
 function(zephyrix_test name)
     cmake_parse_arguments(PARSE_ARGV 1 test "" "PRELUDE" "SOURCES;USES")
     add_executable(${name} ${test_SOURCES})
@@ -52,6 +75,7 @@ function(zephyrix_test name)
     target_compile_definitions(${name} PRIVATE
         TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
         PROGRAM_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}"
+        MODULES_DIR="${ZEPHYRIX_MODULES_DIR}"
         SOURCE_DIR="${CMAKE_SOURCE_DIR}")
     if(NOT test_PRELUDE)
         set(test_PRELUDE test)

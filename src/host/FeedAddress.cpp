@@ -4,7 +4,7 @@
 #include <QUrl>
 
 #include "foundation/Log.h"
-#include "widget/FeedRequest.h"
+#include "transport/AddressRules.h"
 
 namespace zephyrix {
 
@@ -13,7 +13,7 @@ namespace {
 QString allowedAddress(const QString& address, bool allowPlainHttp) {
     const QUrl url(address, QUrl::StrictMode);
     const bool isPlain = url.scheme() == QLatin1String("http");
-    if (!isPlain || allowPlainHttp || FeedRequest::isThisMachine(url))
+    if (!isPlain || allowPlainHttp || isThisMachine(url))
         return address;
     logLine(
         QStringLiteral("the feed %1 is not asked: what plain http brings, anyone on the way can "

@@ -9,7 +9,7 @@
 #include <QUrl>
 
 #include "BarFormat.h"
-#include "widget/FeedRequest.h"
+#include "transport/AddressRules.h"
 
 namespace zephyrix {
 
@@ -77,7 +77,7 @@ QString barFormat(const QString& given) {
 
 QString feedAddressFrom(const QString& given) {
     QString address = completeFeedAddress(given);
-    if (!FeedRequest::isFeedAddress(QUrl(address, QUrl::StrictMode)))
+    if (!isFeedAddress(QUrl(address, QUrl::StrictMode)))
         throw PanelOptions::Error(
             QStringLiteral("--feed takes an http or https address, not \"%1\"").arg(given));
     return address;

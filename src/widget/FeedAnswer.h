@@ -4,9 +4,9 @@
 
 #include <QByteArray>
 
-#include "FeedError.h"
 #include "WeatherData.h"
 #include "foundation/Number.h"
+#include "transport/FeedError.h"
 
 namespace zephyrix {
 

@@ -2,11 +2,12 @@
 
 #include <utility>
 
-#include <QNetworkAccessManager>
 #include <QPointer>
 #include <QUrl>
 
 #include "foundation/MainQueue.h"
+#include "transport/AddressRules.h"
+#include "transport/TransportModule.h"
 
 namespace zephyrix {
 
@@ -20,10 +21,12 @@ QUrl addressFor(const QString& base, const Number& locationID) {
 
 }  // namespace
 
-WeatherFeed::WeatherFeed(BaseAddress baseAddress, OperationQueue& queue, const FeedLimits& limits)
-    : baseAddress_(std::move(baseAddress)), queue_(queue), limits_(limits) {}
-
-WeatherFeed::~WeatherFeed() = default;
+WeatherFeed::WeatherFeed(BaseAddress baseAddress, OperationQueue& queue, const FeedLimits& limits,
+                         std::unique_ptr<FeedTransport> transport)
+    : baseAddress_(std::move(baseAddress)),
+      queue_(queue),
+      limits_(limits),
+      transport_(transport ? std::move(transport) : std::make_unique<TransportModule>()) {}
 
 void WeatherFeed::fetch(const Number& locationID, Completion completion) {
     baseAddress_([self = QPointer(this), locationID,
@@ -35,7 +38,7 @@ void WeatherFeed::fetch(const Number& locationID, Completion completion) {
 
 void WeatherFeed::request(const QString& base, const Number& locationID, Completion completion) {
     const QUrl address = addressFor(base, locationID);
-    if (!FeedRequest::isFeedAddress(address)) {
+    if (!isFeedAddress(address)) {
         MainQueue::dispatch([self = QPointer(this), completion = std::move(completion)] {
             if (self)
                 completion(std::nullopt,
@@ -43,13 +46,11 @@ void WeatherFeed::request(const QString& base, const Number& locationID, Complet
         });
         return;
     }
-    if (!network_)
-        network_ = std::make_unique<QNetworkAccessManager>();
     auto handler = [this, locationID, completion = std::move(completion)](
                        const QByteArray& body, const std::optional<FeedError>& error) {
         read(body, error, locationID, completion);
     };
-    new FeedRequest(*network_, address, limits_, std::move(handler), &requests_);
+    transport_->get(address, limits_, std::move(handler));
 }
 
 void WeatherFeed::read(const QByteArray& body, const std::optional<FeedError>& error,

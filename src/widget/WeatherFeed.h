@@ -8,15 +8,13 @@
 #include <QString>
 
 #include "FeedAnswer.h"
-#include "FeedRequest.h"
 #include "foundation/OperationQueue.h"
-
-class QNetworkAccessManager;
+#include "transport/FeedTransport.h"
 
 namespace zephyrix {
 
 /// Fetches weather documents from the feed server. Requests run on the main thread's event loop,
-/// their answers are read on an operation queue. Nothing of the network is made before the first
+/// their answers are read on an operation queue. Nothing of the network is loaded before the first
 /// fetch. Main thread.
 class WeatherFeed : public QObject {
     Q_OBJECT
@@ -28,8 +26,9 @@ class WeatherFeed : public QObject {
     using Completion =
         std::function<void(std::optional<WeatherData> document, std::optional<FeedError> error)>;
 
-    WeatherFeed(BaseAddress baseAddress, OperationQueue& queue, const FeedLimits& limits);
-    ~WeatherFeed() override;
+    /// Without a transport of its own it uses that of the program's module.
+    WeatherFeed(BaseAddress baseAddress, OperationQueue& queue, const FeedLimits& limits,
+                std::unique_ptr<FeedTransport> transport = nullptr);
 
     /// Starts one request and returns at once. The completion is called exactly once, later, on the
     /// main thread; never when the feed object has ended before. It gets a document, be it empty,
@@ -44,8 +43,7 @@ class WeatherFeed : public QObject {
     BaseAddress baseAddress_;
     OperationQueue& queue_;
     FeedLimits limits_;
-    std::unique_ptr<QNetworkAccessManager> network_;
-    QObject requests_;  // the parent of those under way: they end before the network does
+    std::unique_ptr<FeedTransport> transport_;
 };
 
 }  // namespace zephyrix

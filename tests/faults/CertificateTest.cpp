@@ -7,8 +7,8 @@
 #include <gtest/gtest.h>
 
 #include "TlsServer.h"
+#include "network/FeedRequest.h"
 #include "support/LoopbackServer.h"
-#include "widget/FeedRequest.h"
 
 namespace zephyrix {
 namespace {

@@ -25,6 +25,14 @@ class Surroundings : public AgedPanel {
   protected:
     /// From here on, the program is a copy of its own with other data beside it; their folder.
     QString copyProgram() {
+        QString data = copyProgramAlone();
+        const QString modules = data + QStringLiteral("/../../bin/" MODULES_DIR);
+        QDir().mkpath(modules);
+        EXPECT_TRUE(QFile::link(QStringLiteral(PROGRAM_DIR "/" MODULES_DIR "/zephyrix-network.so"),
+                                modules + QStringLiteral("/zephyrix-network.so")));
+        return data;
+    }
+    QString copyProgramAlone() {
         const QString root = freshFolder();
         QDir(root).mkpath(QStringLiteral("bin"));
         QDir(root).mkpath(QStringLiteral("share/zephyrix"));
@@ -72,6 +80,18 @@ TEST_F(Surroundings, WithoutItsDataThePanelShowsAllButTheWords) {
         ASSERT_EQ(lines.size(), 1) << result.err.toStdString();
         EXPECT_THAT(lines.first().toStdString(), HasSubstr(row.told));
     }
+}
+
+TEST_F(Surroundings, WithoutItsNetworkItKeepsTheLastWeather) {
+    copyProgramAlone();
+    const QVariant before = document();
+    const auto result = report();
+    EXPECT_THAT(result.out.toStdString(), HasSubstr("7°C"));
+    EXPECT_EQ(document(), before);
+    EXPECT_TRUE(server_.requestLines().isEmpty());
+    EXPECT_EQ(result.err.count("zephyrix-network.so"), 1) << result.err.toStdString();
+    EXPECT_THAT(result.err.toStdString(),
+                HasSubstr("Transport error 99: The network cannot be used"));
 }
 
 TEST_F(Surroundings, WithoutFontsItTellsAndGoesOn) {

@@ -166,6 +166,30 @@ class PanelWindowTest : public PanelProgramTest {
     QByteArray log_;
 };
 
+/// Its libraries take longer to load than the panel to show the weather that it has.
+TEST_F(PanelWindowTest, NetworkIsLoadedByTheFirstFetchOnly) {
+    panel_.choosePlace();
+    const QStringList arguments{QStringLiteral("--window"), QStringLiteral("--feed"),
+                                server_.baseAddress()};
+    const auto isNetworkLoaded = [this] {
+        QFile maps(QStringLiteral("/proc/%1/maps").arg(process_.processId()));
+        EXPECT_TRUE(maps.open(QIODevice::ReadOnly));
+        const QByteArray files = maps.readAll();
+        EXPECT_TRUE(files.contains("/libQt6Widgets.so"));
+        EXPECT_EQ(files.contains("/zephyrix-network.so"), files.contains("/libQt6Network.so"));
+        return files.contains("/libQt6Network.so");
+    };
+    open(arguments);
+    ASSERT_TRUE(waitUntil([this] { return panel_.setting(documentKey).isValid(); }));
+    EXPECT_TRUE(isNetworkLoaded());
+    expectEnd(SIGTERM);
+    log_.clear();
+    open(arguments);
+    EXPECT_FALSE(isNetworkLoaded()) << "the document is young";
+    expectEnd(SIGTERM);
+    EXPECT_EQ(server_.requestLines().size(), 1);
+}
+
 TEST_F(PanelWindowTest, SignalEndsItInOrderAndWritesNoDocument) {
     panel_.choosePlace();
     server_.answerWith(answerNothing());

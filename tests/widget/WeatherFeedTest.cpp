@@ -4,7 +4,6 @@
 #include <thread>
 #include <vector>
 
-#include <QNetworkAccessManager>
 #include <gtest/gtest.h>
 
 #include "foundation/Clock.h"

@@ -3,18 +3,19 @@
 #include <memory>
 #include <utility>
 
-#include <QHostAddress>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QScopedPointer>
+
+#include "transport/AddressRules.h"
 
 namespace zephyrix {
 
 namespace {
 
 // What may arrive before it is taken, in bytes: else a fast server fills the memory meanwhile.
-constexpr qint64 waiting = 512 * 1024;
+constexpr qint64 waiting = qint64{512} * 1024;
 
 QNetworkRequest requestFor(const QUrl& address) {
     QNetworkRequest request(address);
@@ -44,8 +45,7 @@ bool isStatusError(const QNetworkReply& reply) {
 bool isAsSafe(const QUrl& from, const QUrl& to) {
     if (to.scheme() == QLatin1String("https"))
         return true;
-    const bool sameMachine = from.host() == to.host() ||
-                             (FeedRequest::isThisMachine(from) && FeedRequest::isThisMachine(to));
+    const bool sameMachine = from.host() == to.host() || (isThisMachine(from) && isThisMachine(to));
     return from.scheme() == QLatin1String("http") && sameMachine;
 }
 
@@ -70,17 +70,6 @@ FeedRequest::~FeedRequest() {
         return;
     reply_->disconnect(this);
     reply_->abort();
-}
-
-bool FeedRequest::isFeedAddress(const QUrl& address) {
-    const QString scheme = address.scheme();
-    return address.isValid() && !address.host().isEmpty() &&
-           (scheme == QLatin1String("http") || scheme == QLatin1String("https"));
-}
-
-bool FeedRequest::isThisMachine(const QUrl& address) {
-    return address.host() == QLatin1String("localhost") ||
-           QHostAddress(address.host()).isLoopback();
 }
 
 void FeedRequest::send(const QUrl& address) {

@@ -11,8 +11,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "network/FeedRequest.h"
 #include "support/LoopbackServer.h"
-#include "widget/FeedRequest.h"
 
 namespace zephyrix {
 namespace {
@@ -184,14 +184,6 @@ TEST_F(FeedRequestTest, DestroyedWhileItWaitsItClosesTheConnectionAndStaysSilent
     delete request;
     EXPECT_TRUE(waitUntil([&] { return server_.connections() == 0; }));
     EXPECT_TRUE(results_.empty());
-}
-
-TEST(FeedAddress, IsHttpWithAHost) {
-    for (const char* good : {"http://127.0.0.1:80/a?b=1", "https://example.org/"})
-        EXPECT_TRUE(FeedRequest::isFeedAddress(QUrl(good, QUrl::StrictMode))) << good;
-    for (const char* bad : {"", "zephyrix/", "file:///etc/passwd", "ftp://example.org/",
-                            "http:///path", "http://exa mple.org/", "http://[::1/", "data:,{}"})
-        EXPECT_FALSE(FeedRequest::isFeedAddress(QUrl(bad, QUrl::StrictMode))) << bad;
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <chrono>
-#include <functional>
 #include <optional>
 
 #include <QByteArray>
@@ -9,21 +7,12 @@
 #include <QTimer>
 #include <QUrl>
 
-#include "FeedError.h"
+#include "transport/FeedTransport.h"
 
 class QNetworkAccessManager;
 class QNetworkReply;
 
 namespace zephyrix {
-
-/// What an answer may take at most. Past any of these the request is given up, as a transport
-/// error.
-struct FeedLimits {
-    std::chrono::milliseconds silence{20'000};  // without a byte, counted from the request on
-    std::chrono::milliseconds total{60'000};    // for the whole answer, however it trickles
-    qint64 bytes = qint64{8} << 20;             // of the body, after decompression
-    int redirects = 16;
-};
 
 /// One GET of the feed, past every cache, by https with every check of the certificate. A redirect
 /// is followed to https, and from plain http to plain http on the same machine; to nothing else.
@@ -36,18 +25,13 @@ class FeedRequest : public QObject {
     Q_OBJECT
 
   public:
-    using Handler = std::function<void(const QByteArray& body, std::optional<FeedError> error)>;
+    using Handler = FeedTransport::Handler;
 
     /// Starts at once. The handler is called exactly once, from the event loop, with the body or
     /// with an error. The request then deletes itself.
     FeedRequest(QNetworkAccessManager& network, const QUrl& address, const FeedLimits& limits,
                 Handler handler, QObject* parent);
     ~FeedRequest() override;
-
-    /// Whether a feed may live there: http or https, with a host.
-    [[nodiscard]] static bool isFeedAddress(const QUrl& address);
-    /// Whether nobody else hears what is said to that address: "localhost", 127.0.0.0/8, ::1.
-    [[nodiscard]] static bool isThisMachine(const QUrl& address);
 
   private:
     void send(const QUrl& address);
