@@ -205,6 +205,11 @@ std::optional<std::int64_t> ObsCell::shownAge(const Obs& record) {
     return hours >= oldFrom ? std::optional(Number(hours).integerValue()) : std::nullopt;
 }
 
+QString ObsCell::ageText(const Obs& record) {
+    const auto hours = shownAge(record);
+    return hours ? localized(u"%1 h ago").arg(*hours) : QString();
+}
+
 std::optional<Instant> ObsCell::nextAge(const Obs& record) {
     if (!record.date)
         return std::nullopt;
@@ -216,9 +221,8 @@ std::optional<Instant> ObsCell::nextAge(const Obs& record) {
 void ObsCell::showAge(const Obs& record) {
     if (!ageLabel_)
         return;
-    const auto hours = shownAge(record);
-    const QString text = hours ? localized(u"%1 h ago").arg(*hours) : QString();
-    ageLabel_->setVisible(hours.has_value());
+    const QString text = ageText(record);
+    ageLabel_->setVisible(!text.isEmpty());
     ageLabel_->setText(text);
     setToolTip(text);
 }

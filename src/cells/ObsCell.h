@@ -79,6 +79,8 @@ class ObsCell : public TableCell {
 
     /// Whole hours since the observation: from 2 on, when the row says how old it is.
     [[nodiscard]] static std::optional<std::int64_t> shownAge(const Obs& record);
+    /// "3 h ago" in the user's language; empty where the row says nothing.
+    [[nodiscard]] static QString ageText(const Obs& record);
     /// When that changes next, as long as the record stays; nothing for one without a date.
     [[nodiscard]] static std::optional<Instant> nextAge(const Obs& record);
 

@@ -12,17 +12,24 @@
 #include "BarSymbol.h"
 #include "RowReport.h"
 #include "cells/ObsCell.h"
+#include "foundation/Clock.h"
+#include "foundation/TimeZone.h"
+#include "meteo/MeteoMapping.h"
 
 namespace zephyrix {
 
 namespace {
 
 const QString usualFields = QStringLiteral("{symbol} {temperature}");
+constexpr std::int64_t missingTemperature = -9999;
 
 struct Facts {
     QJsonObject row;
     BarSymbol symbol;
     QString source;
+    QString age{};
+    QString high{};  // of today
+    QString low{};
 };
 
 QString text(const QJsonObject& object, const char* key) {
@@ -52,6 +59,8 @@ struct Field {
 constexpr std::array fields{
     Field{"symbol", [](const Facts& facts) { return facts.symbol.glyph; }},
     Field{"temperature", [](const Facts& facts) { return text(facts.row, "temperature"); }},
+    Field{"high", [](const Facts& facts) { return facts.high; }},
+    Field{"low", [](const Facts& facts) { return facts.low; }},
     Field{"text", [](const Facts& facts) { return text(facts.row, "weather"); }},
     Field{"place", [](const Facts& facts) { return text(facts.row, "place"); }},
     Field{"time", [](const Facts& facts) { return text(facts.row, "time"); }},
@@ -60,6 +69,7 @@ constexpr std::array fields{
     Field{"precipitation",
           [](const Facts& facts) { return inUnits(facts, "precipitation", "amount"); }},
     Field{"pressure", [](const Facts& facts) { return inUnits(facts, "pressure", "value"); }},
+    Field{"age", [](const Facts& facts) { return facts.age; }},
     Field{"source", [](const Facts& facts) { return facts.source; }},
 };
 
@@ -106,14 +116,43 @@ QString oneLine(QString text) {
     return text.replace(u'\n', u' ').replace(u'\r', u' ').trimmed();
 }
 
+/// What the forecast says of the day that it is at the place; nothing where it says nothing.
+QVariantMap forecastOfToday(const WeatherData& document, const LocationResult& place) {
+    const QTimeZone zone = place.objTimeZone();
+    const QDateTime now =
+        Clock::now().toDateTime().toTimeZone(zone.isValid() ? zone : defaultTimeZone());
+    const QString today = now.date().toString(Qt::ISODate);
+    const QVariantList days = document.forecast.value_or(QVariantList());
+    const auto found = std::ranges::find_if(days, [&](const QVariant& day) {
+        return day.toMap().value(QStringLiteral("date")).toString() == today;
+    });
+    return found == days.end() ? QVariantMap() : found->toMap();
+}
+
+/// "14°C" of a feed's temperature; empty for a missing one.
+QString temperatureText(const QVariant& celsius, UnitCode unit) {
+    const auto number = Number::fromVariant(celsius);
+    return number && number->integerValue() != missingTemperature
+               ? MeteoMapping::formattedTempString(number, unit)
+               : QString();
+}
+
 Facts factsOf(TodayViewController& controller, const RowReport& report) {
     const QJsonValue row = report.json().value(QLatin1String("rows")).toArray().first();
     const bool observed = row[QLatin1String("kind")] == QLatin1String("observation");
     const auto& document = controller.lastWeatherData();
     const bool hasSymbol = observed && document && document->obs && document->obs->symbol;
-    return {observed ? row.toObject() : QJsonObject(),
-            hasSymbol ? barSymbol(*document->obs->symbol) : barSymbol(Number(0)),
-            RowReport::source(controller)};
+    Facts facts{.row = observed ? row.toObject() : QJsonObject(),
+                .symbol = barSymbol(hasSymbol ? *document->obs->symbol : Number(0)),
+                .source = RowReport::source(controller)};
+    if (!observed || !document || !document->obs || !controller.location())
+        return facts;
+    const QVariantMap today = forecastOfToday(*document, *controller.location());
+    const UnitCode unit = controller.sharedDefaults().integer(QStringLiteral("temperature"));
+    facts.high = temperatureText(today.value(QStringLiteral("tx")), unit);
+    facts.low = temperatureText(today.value(QStringLiteral("tn")), unit);
+    facts.age = ObsCell::ageText(*document->obs);
+    return facts;
 }
 
 /// What a style sheet can choose by.

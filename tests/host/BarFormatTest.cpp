@@ -26,9 +26,11 @@ class BarFormatTest : public ::testing::Test {
         qputenv("XDG_CONFIG_HOME", freshFolder().toUtf8());
         registerCells();
     }
-    static void choosePlace(const QString& name) {
+    static void choosePlace(const QString& name,
+                            const QString& zone = QStringLiteral("Europe/Berlin")) {
         QVariantMap place = LocationResult::defaultSearchResult().asDict();
         place.insert(QStringLiteral("name"), name);
+        place.insert(QStringLiteral("timezone"), zone);
         UserDefaults::suite(QStringLiteral("group.Zephyrix"))
             ->set(QStringLiteral("location"), place);
     }
@@ -69,6 +71,44 @@ TEST_F(BarFormatTest, FieldsAreWhatTheRowShows) {
         << "one line, and doubled braces are braces";
     EXPECT_EQ(line("polybar"), QStringLiteral("\U0001F325 14°C"));
     EXPECT_EQ(line(""), QString());
+}
+
+TEST_F(BarFormatTest, HighAndLowAreOfTheDayThatItIsAtThePlace) {
+    // The document's days begin with 1 June and have 10, 11, ... and 4 degrees.
+    struct Case {
+        const char* why;
+        const char* zone;
+        double hoursAfterNoon;
+        QString told;
+    };
+    for (const Case& c : {
+             Case{"the first day", "Europe/Berlin", 1.99, QStringLiteral("10°C|4°C|")},
+             Case{"it is not yet tomorrow", "Europe/Berlin", 2.5,
+                  QStringLiteral("10°C|4°C|2 h ago")},
+             Case{"there it is", "Pacific/Auckland", 2.5, QStringLiteral("11°C|4°C|2 h ago")},
+             Case{"an unknown zone is the device's", "Mars/Olympus", 2.5,
+                  QStringLiteral("10°C|4°C|2 h ago")},
+             Case{"the last day has no high", "Europe/Berlin", 5 * 24.0,
+                  QStringLiteral("|4°C|120 h ago")},
+             Case{"after the last day", "Europe/Berlin", 6 * 24.0, QStringLiteral("||144 h ago")},
+         }) {
+        choosePlace(QStringLiteral("Neustadt"), QLatin1String(c.zone));
+        now_ = noon;
+        auto& controller = show(QVariantMap());
+        auto document = controller.lastWeatherData().value();
+        QVariantMap lastDay = document.forecast->last().toMap();
+        lastDay.insert(QStringLiteral("tx"), -9999);
+        document.forecast->last() = lastDay;
+        controller.setLastWeatherData(document);
+        now_ = noon.addingSeconds(3600.0 * c.hoursAfterNoon);
+        EXPECT_EQ(line("{high}|{low}|{age}"), c.told) << c.why;
+    }
+    UserDefaults::suite(QStringLiteral("group.Zephyrix"))->set(QStringLiteral("temperature"), 1);
+    now_ = noon;
+    show(QVariantMap());
+    EXPECT_EQ(line("{high} {low}"), QStringLiteral("50°F 39°F"));
+    show(std::nullopt);
+    EXPECT_EQ(line("{high}{low}{age}"), QString());
 }
 
 TEST_F(BarFormatTest, WhatIsWrongIsNamed) {

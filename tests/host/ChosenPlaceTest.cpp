@@ -129,6 +129,7 @@ TEST_F(ChosenPlaceTest, AtATerminalANameWithoutAccentsBecomesTheWeatherThatTheSe
     EXPECT_EQ(bar[QLatin1String("text")], QStringLiteral("\U0001F319 -12°C")) << "a moon";
     EXPECT_EQ(bar[QLatin1String("class")].toVariant().toStringList(),
               QStringList({QStringLiteral("clear"), QStringLiteral("night")}));
+    EXPECT_EQ(report("--format {high}|{low}|{age}").out.toStdString(), "-9°C|-15°C|\n");
 }
 
 /// The same with a panel on the screen and the window of `zephyrix` beside it.
