@@ -5,33 +5,12 @@
 
 #include "SmoothNoise.h"
 #include "foundation/TimeZone.h"
-#include "foundation/UserDefaults.h"
 #include "model/LocationResult.h"
 #include "places/CoordinateUid.h"
 
 namespace zephyrix {
 
 namespace {
-
-/// Nothing for another id and for a record whose coordinates are of no use.
-std::optional<Place> placeFrom(const LocationResult& record, std::int64_t id) {
-    if (!record.checkValidity() || record.uid()->integerValue() != id || !record.latitude() ||
-        !record.longitude())
-        return std::nullopt;
-    const double latitude = record.latitude()->doubleValue();
-    const double longitude = record.longitude()->doubleValue();
-    if (!(std::fabs(latitude) <= 90.0 && std::fabs(longitude) <= 180.0))
-        return std::nullopt;
-    const QTimeZone zone = timeZoneWithName(record.timezone().value_or(QString()));
-    return Place{id, latitude, longitude, zone.isValid() ? zone : zoneOfLongitude(longitude)};
-}
-
-std::optional<Place> chosenPlace(std::int64_t id) {
-    // Opened anew each time, by the thread that asks: so it is up to date and nobody else's.
-    const auto shared = UserDefaults::suite(QStringLiteral("group.Zephyrix"));
-    const auto dictionary = shared ? shared->dictionary(QStringLiteral("location")) : std::nullopt;
-    return dictionary ? placeFrom(LocationResult(*dictionary), id) : std::nullopt;
-}
 
 Place inventedPlace(std::int64_t id) {
     const auto seed = static_cast<std::uint64_t>(id);
@@ -46,8 +25,22 @@ QTimeZone zoneOfLongitude(double degreesEast) {
     return QTimeZone(static_cast<int>(std::lround(degreesEast / 15.0)) * 3600);
 }
 
+std::optional<Place> placeOfRecord(const LocationResult& record) {
+    if (!record.checkValidity() || !record.latitude() || !record.longitude())
+        return std::nullopt;
+    const double latitude = record.latitude()->doubleValue();
+    const double longitude = record.longitude()->doubleValue();
+    if (!(std::fabs(latitude) <= 90.0 && std::fabs(longitude) <= 180.0))
+        return std::nullopt;
+    const QTimeZone zone = timeZoneWithName(record.timezone().value_or(QString()));
+    return Place{record.uid()->integerValue(), latitude, longitude,
+                 zone.isValid() ? zone : zoneOfLongitude(longitude)};
+}
+
 PlaceDirectory::PlaceDirectory(std::optional<Place> everyPlace, Unknown unknown)
-    : everyPlace_(std::move(everyPlace)), unknown_(unknown) {}
+    : everyPlace_(std::move(everyPlace)),
+      unknown_(unknown),
+      defaultPlace_(placeOfRecord(LocationResult::defaultSearchResult())) {}
 
 std::optional<Place> PlaceDirectory::placeOf(std::int64_t id) const {
     if (everyPlace_) {
@@ -55,10 +48,10 @@ std::optional<Place> PlaceDirectory::placeOf(std::int64_t id) const {
         place.id = id;
         return place;
     }
-    if (auto place = chosenPlace(id))
+    if (auto place = chosen_.place(); place && place->id == id)
         return place;
-    if (auto place = placeFrom(LocationResult::defaultSearchResult(), id))
-        return place;
+    if (defaultPlace_ && defaultPlace_->id == id)
+        return defaultPlace_;
     if (auto place = listedPlace(id))
         return place;
     return unknown_ == Unknown::Invented ? std::optional(inventedPlace(id)) : std::nullopt;
@@ -72,7 +65,7 @@ std::optional<Place> PlaceDirectory::listedPlace(std::int64_t id) const {
         return Place{id, where->latitude, where->longitude,
                      timeZoneWithName(list_->zoneAt(*where))};
     const auto place = list_->place(id);
-    return place ? placeFrom(locationOf(*place), id) : std::nullopt;
+    return place ? placeOfRecord(locationOf(*place)) : std::nullopt;
 }
 
 }  // namespace zephyrix

@@ -5,6 +5,8 @@
 #include <mutex>
 #include <optional>
 
+#include "ChosenPlace.h"
+#include "model/LocationResult.h"
 #include "places/PlaceList.h"
 #include "weather/Place.h"
 
@@ -36,9 +38,15 @@ class PlaceDirectory {
 
     std::optional<Place> everyPlace_;
     Unknown unknown_;
+    std::optional<Place> defaultPlace_;
+    ChosenPlace chosen_;
     mutable std::mutex listMutex_;
     mutable std::unique_ptr<PlaceList> list_;  // opened when it is first asked
 };
+
+/// Where the place of a record is, under the record's id; nothing for one that is not valid or has
+/// coordinates that are of no use.
+[[nodiscard]] std::optional<Place> placeOfRecord(const LocationResult& record);
 
 /// The zone with the time of a longitude in whole hours from UTC.
 [[nodiscard]] QTimeZone zoneOfLongitude(double degreesEast);

@@ -59,6 +59,25 @@ TEST_F(PlaceDirectoryTest, ThePlaceThatWasChosenGoesBeforeTheListAndTheFirstOpti
     EXPECT_EQ(latitude(Place{1, 12.0, 34.0, QTimeZone("Asia/Tokyo")}), 12.0);
 }
 
+TEST_F(PlaceDirectoryTest, AnotherChoiceCountsFromTheNextQuestionOn) {
+    const PlaceDirectory places(std::nullopt, PlaceDirectory::Unknown::Refused);
+    EXPECT_NEAR(places.placeOf(3133895)->latitude, 69.65, 0.01) << "no settings yet";
+    const auto settings = UserDefaults::suite(QStringLiteral("group.Zephyrix"));
+    // At once after each other, and always as many bytes.
+    for (int degrees = 10; degrees < 90; ++degrees) {
+        LocationResult chosen = LocationResult::defaultSearchResult();
+        chosen.setUid(Number(3133895));
+        chosen.setLatitude(Number(degrees));
+        settings->set(QStringLiteral("location"), chosen.asDict());
+        ASSERT_TRUE(settings->synchronize());
+        EXPECT_EQ(places.placeOf(3133895)->latitude, degrees);
+        EXPECT_EQ(places.placeOf(3133895)->latitude, degrees) << "without reading";
+    }
+    settings->remove(QStringLiteral("location"));
+    ASSERT_TRUE(settings->synchronize());
+    EXPECT_NEAR(places.placeOf(3133895)->latitude, 69.65, 0.01) << "chosen no more";
+}
+
 TEST_F(PlaceDirectoryTest, MayBeAskedByManyThreads) {
     const PlaceDirectory places(std::nullopt, PlaceDirectory::Unknown::Refused);
     std::array<std::thread, 4> threads;
