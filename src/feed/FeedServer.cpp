@@ -2,13 +2,12 @@
 
 #include <charconv>
 #include <string>
-#include <sys/socket.h>
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <httplib.h>
 
 #include "CacheHeaders.h"
+#include "KeepingServer.h"
 #include "foundation/Clock.h"
 #include "foundation/Log.h"
 
@@ -49,21 +48,12 @@ void logRequest(const Request& request, const Response& response) {
                      QString::number(response.status), QString::number(bytes)));
 }
 
-/// Unlike the library's own choice, a port that another server has is not shared with it.
-void reuseOnlyFreedAddress(int socket) {
-    const int yes = 1;
-    ::setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
-}
-
 }  // namespace
 
 class FeedServer::Private {
   public:
     Private(const DocumentKeeper& documents, const PlaceDirectory& places)
         : documents_(documents), places_(places) {
-        server.set_socket_options(reuseOnlyFreedAddress);
-        // A connection is for one request: an idle one would hold a thread.
-        server.set_keep_alive_max_count(1);
         // Before the library reads a body, and instead of its routing, whose patterns recurse once
         // a character of the path.
         server.set_pre_routing_handler([this](const Request& request, Response& response) {
@@ -77,7 +67,7 @@ class FeedServer::Private {
         server.set_logger(logRequest);
     }
 
-    httplib::Server server;
+    KeepingServer server;
 
   private:
     void answer(const Request& request, Response& response) const {
@@ -116,10 +106,13 @@ FeedServer::~FeedServer() = default;
 
 std::optional<int> FeedServer::listenOn(int port) {
     constexpr const char* loopback = "127.0.0.1";
-    if (port != 0)
-        return d_->server.bind_to_port(loopback, port) ? std::optional(port) : std::nullopt;
-    const int chosen = d_->server.bind_to_any_port(loopback);
-    return chosen > 0 ? std::optional(chosen) : std::nullopt;
+    const int chosen = port == 0 ? d_->server.bind_to_any_port(loopback)
+                       : d_->server.bind_to_port(loopback, port) ? port
+                                                                 : -1;
+    if (chosen <= 0)
+        return std::nullopt;
+    d_->server.widenQueue();
+    return chosen;
 }
 
 void FeedServer::serve() {

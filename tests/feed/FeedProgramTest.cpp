@@ -219,6 +219,57 @@ TEST(FeedProgram, AsksTheServiceThatTheSettingsName) {
               QStringLiteral("demonstration"));
 }
 
+TEST(FeedProgram, KeepsAConnectionOnlyWhileOthersAreServed) {
+    const FeedProgram feed;
+    const QByteArray request = "GET / HTTP/1.1\r\nHost: localhost\r\n\r\n";
+    EXPECT_TRUE(feed.answerTo("GET /").contains("\r\nConnection: close\r\n")) << "it is alone";
+
+    QTcpSocket other;  // that is still to ask
+    other.connectToHost(QStringLiteral("127.0.0.1"), feed.port);
+    ASSERT_TRUE(other.waitForConnected(5000));
+    struct Case {
+        const char* why;
+        QByteArrayList writings;
+        int answers;
+        bool isKept;
+    };
+    for (const Case& c : {
+             Case{"one after the other", {request, request}, 2, true},
+             Case{"together, and the half of a third", {request + request + "GET"}, 2, true},
+             Case{"at the client's wish",
+                  {"GET / HTTP/1.1\r\nConnection: close\r\n\r\n" + request},
+                  1,
+                  false},
+             Case{"an old client", {"GET / HTTP/1.0\r\n\r\n" + request}, 1, false},
+             // Else a body could pass for a request, and its answer for somebody else's.
+             Case{"with a body",
+                  {"GET / HTTP/1.1\r\nContent-Length: 43\r\n\r\n" + request},
+                  1,
+                  false},
+             Case{"with a body of parts",
+                  {"GET / HTTP/1.1\r\nTransfer-Encoding: chunked\r\n\r\n" + request},
+                  1,
+                  false},
+             Case{"not understood", {"nonsense\r\n" + request}, 1, false},
+         }) {
+        QTcpSocket socket;
+        socket.connectToHost(QStringLiteral("127.0.0.1"), feed.port);
+        QByteArray heard;
+        const auto listen = [&](int answers) {
+            while (heard.count("\"}") < answers && socket.waitForReadyRead(5000))
+                heard += socket.readAll();
+        };
+        for (qsizetype i = 0; i < c.writings.size(); ++i) {
+            socket.write(c.writings.at(i));
+            listen(c.answers - static_cast<int>(c.writings.size() - 1 - i));
+        }
+        if (!c.isKept)
+            listen(c.answers + 1);  // until the end
+        EXPECT_EQ(socket.state() == QTcpSocket::ConnectedState, c.isKept) << c.why;
+        EXPECT_EQ(heard.count("HTTP/1.1 4"), c.answers) << c.why << ": " << heard.toStdString();
+    }
+}
+
 TEST(FeedProgram, IsOnThisMachineOnlyAndSharesItsPortWithNobody) {
     const FeedProgram feed;
     QTcpSocket other;
@@ -251,7 +302,7 @@ TEST(FeedProgram, EndsAtOnce) {
         halfAsked.connectToHost(QStringLiteral("127.0.0.1"), feed.port);
         halfAsked.write("GET /zephyrix/Wea");
         EXPECT_TRUE(halfAsked.waitForBytesWritten(1000));
-        EXPECT_EQ(statusOf(feed.answerTo("GET /")), 404);
+        EXPECT_EQ(statusOf(feed.answerTo("GET /", "Connection: close\r\n")), 404);
         QElapsedTimer timer;
         timer.start();
         c.end(feed.process);
