@@ -127,11 +127,15 @@ void ForecastCell::configureCell(const std::optional<QVariantList>& days) {
     const int filled = std::min(dayCount, static_cast<int>(days->size()));
     emptyContainer();
     spokenDays_.clear();
+    QList<ForecastDayView*> columns;
     for (int index = 0; index < filled; ++index) {
         ForecastDayView* column = instantiateAndConfigureForecastDayViewForIndex(index, dayCount);
-        if (column != nullptr)
-            showDay(days->at(index).toMap(), *column, unit);
+        if (column == nullptr)
+            continue;
+        showDay(days->at(index).toMap(), *column, unit);
+        columns << column;
     }
+    fitTemperatures(columns);
     qDeleteAll(spareColumns_);
     spareColumns_.clear();
 }
@@ -175,6 +179,18 @@ void ForecastCell::showDay(const QVariantMap& day, ForecastDayView& column, Unit
                                      Number::fromVariant(tx), Number::fromVariant(tn), unit);
     column.setAccessibleName(spoken);
     spokenDays_ << spoken;
+}
+
+// All columns have the size that the longest temperatures ask for: of two sizes beside each other
+// the larger would look like the more important day.
+void ForecastCell::fitTemperatures(const QList<ForecastDayView*>& columns) {
+    double scale = 1.0;
+    for (ForecastDayView* column : columns) {
+        column->setTemperatureScale(1.0);
+        scale = std::min(scale, column->fittingTemperatureScale());
+    }
+    for (ForecastDayView* column : columns)
+        column->setTemperatureScale(scale);
 }
 
 ForecastDayView* ForecastCell::columnWithTag(int tag) const {

@@ -69,6 +69,7 @@ class ForecastCell : public TableCell {
     [[nodiscard]] ForecastDayView* newColumn();
     [[nodiscard]] ForecastDayView* columnWithTag(int tag) const;
     void showDay(const QVariantMap& day, ForecastDayView& column, UnitCode unit);
+    static void fitTemperatures(const QList<ForecastDayView*>& columns);
 
     QPointer<QWidget> container_;
     std::optional<LocationResult> location_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLayout>
 #include <QPointer>
 
 #include "ui/ImageView.h"
@@ -24,6 +25,12 @@ class ForecastDayView : public View, public NibObject {
     [[nodiscard]] QWidget* separator() const { return separator_; }
     void connectOutlets() override;
 
+    /// The part of their usual size at which both temperatures have room beside each other; 1 where
+    /// they need not be smaller. While they have their usual size.
+    [[nodiscard]] double fittingTemperatureScale() const;
+    /// Part of the temperatures' usual size; 1 until told otherwise.
+    void setTemperatureScale(double scale);
+
     /// A yellow ground to see a column by while working on a layout; clear without.
     virtual void setHighlighted(bool highlighted);
 
@@ -37,6 +44,8 @@ class ForecastDayView : public View, public NibObject {
     QPointer<Label> tx_;
     QPointer<Label> tn_;
     QPointer<QWidget> separator_;
+    QPointer<QLayout> temperatures_;
+    double temperatureScale_ = 1.0;
     int tag_ = 0;
 };
 

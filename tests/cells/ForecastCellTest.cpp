@@ -1,5 +1,8 @@
 #include <memory>
 
+#include <QCoreApplication>
+#include <QImage>
+#include <QSet>
 #include <gtest/gtest.h>
 
 #include "Stage.h"
@@ -109,6 +112,48 @@ TEST_F(ForecastCellTest, ShowsDayAndTemperaturesOrADash) {
                              "Monday, high 14 degrees Celsius, low 8 degrees Celsius; "
                              "Tuesday, low 7 degrees Celsius; "
                              "Wednesday, high 12 degrees Celsius, low 5 degrees Celsius"));
+}
+
+/// How high the figures of the columns are painted, in pixels: of the columns' pictures.
+QSet<int> paintedHeights(const QList<ForecastDayView*>& columns) {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    QSet<int> heights;
+    for (const ForecastDayView* column : columns) {
+        const QImage picture = column->tx()->grab().toImage();
+        const QRgb ground = picture.pixel(0, 0);
+        int rows = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            bool hasInk = false;
+            for (int x = 0; x < picture.width(); ++x)
+                hasInk = hasInk || picture.pixel(x, y) != ground;
+            rows += hasInk ? 1 : 0;
+        }
+        heights.insert(rows);
+    }
+    return heights;
+}
+
+TEST_F(ForecastCellTest, TemperaturesOfAllDaysAreEquallyHigh) {
+    Weather weather = showerInBerlin();
+    const auto setDay = [&](int index, double highest, double lowest) {
+        QVariantMap day = weather.days.at(index).toMap();
+        day[QStringLiteral("tx")] = highest;
+        day[QStringLiteral("tn")] = lowest;
+        weather.days[index] = day;
+    };
+    for (int index = 0; index < 5; ++index)
+        setDay(index, 18.0, 10.0);
+    const QSet<int> usual = paintedHeights(columnsOf(cellOn(416, weather)));
+    ASSERT_EQ(usual.size(), 1);
+    setDay(3, -28.0, -38.0);
+    ForecastCell* cell = cellOn(416, weather);
+    const QSet<int> smaller = paintedHeights(columnsOf(cell));
+    ASSERT_EQ(smaller.size(), 1) << "one long text makes all smaller";
+    EXPECT_LT(*smaller.begin(), *usual.begin());
+    setDay(3, 18.0, 10.0);
+    cell->setData(weather.days);
+    layOut(cell);
+    EXPECT_EQ(paintedHeights(columnsOf(cell)), usual) << "and leaves them when it goes";
 }
 
 TEST_F(ForecastCellTest, EachPassFillsTheContainerAnewButNotWithoutDays) {
