@@ -12,7 +12,7 @@ namespace {
 // What the desktop would like to keep free, in points of the panel; it answers what it takes of it.
 constexpr QMarginsF proposedMargins(16.0, 0.0, 0.0, 16.0);
 constexpr int sourceHeight = 20;  // points of the panel
-constexpr int sourceInset = 12;   // on each side
+constexpr int sourceInset = 16;   // on each side, as the rows above have it
 
 /// The panel is the screen of its rows: they choose by its width in points of the panel.
 void tellScreen(const QSizeF& size, double scale) {
