@@ -1,6 +1,8 @@
 #include "SettingsWindow.h"
 
 #include <QKeyEvent>
+#include <QScreen>
+#include <QScrollBar>
 
 #include "Command.h"
 #include "FeedState.h"
@@ -19,7 +21,8 @@ namespace {
 constexpr int leastWidth = 460;   // points, the least
 constexpr int placeHeight = 176;  // of the search and its results, or the place's card
 constexpr int sectionSpacing = 14;
-constexpr int everyMinute = 60'000;  // milliseconds
+constexpr QSize desktopsFrame(16, 40);  // about what a desktop puts around a window
+constexpr int everyMinute = 60'000;     // milliseconds
 const QString locationKey = QStringLiteral("location");
 
 QLabel* heading(QWidget* parent, QStringView key) {
@@ -38,6 +41,7 @@ std::optional<LocationResult> placeIn(const UserDefaults& settings) {
 SettingsWindow::SettingsWindow()
     : settings_(openSharedSettings()),
       panelSettings_(openPanelSettings()),
+      scroll_(new QScrollArea(this)),
       search_(new PlaceSearch(this)),
       place_(new PlaceCard(this)),
       units_(new UnitsForm(*settings_, this)),
@@ -46,9 +50,7 @@ SettingsWindow::SettingsWindow()
       source_(textLabel(this, 0.9, false)),
       login_(new QCheckBox(localized(u"Show the panel at login"), this)) {
     setWindowTitle(QStringLiteral("Zephyrix"));
-    setMinimumWidth(leastWidth);
-    auto* const column = new QVBoxLayout(this);
-    column->setSpacing(6);
+    QVBoxLayout* const column = makeColumn();
     addPlace(column);
     addChoices(column);
     addWeather(column);
@@ -57,6 +59,34 @@ SettingsWindow::SettingsWindow()
         connect(store, &UserDefaults::changedByOthers, this, &SettingsWindow::showStored);
     connect(&minute_, &QTimer::timeout, this, &SettingsWindow::showNow);
     search_->setFocus();
+    resize(sizeOnScreen());
+}
+
+QVBoxLayout* SettingsWindow::makeColumn() {
+    auto* const content = new QWidget;
+    content->setMinimumWidth(leastWidth);
+    auto* const column = new QVBoxLayout(content);
+    column->setSpacing(6);
+    scroll_->setWidget(content);
+    scroll_->setWidgetResizable(true);
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setFocusPolicy(Qt::NoFocus);  // it follows the focus of its controls
+    auto* const whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(scroll_);
+    return column;
+}
+
+QSize SettingsWindow::wholeSize() const {
+    return scroll_->widget()->layout()->totalSizeHint().expandedTo(QSize(leastWidth, 0));
+}
+
+QSize SettingsWindow::sizeOnScreen() const {
+    const QSize whole = wholeSize();
+    const QSize room = screen()->availableSize() - desktopsFrame;
+    const int bar =
+        whole.height() > room.height() ? scroll_->verticalScrollBar()->sizeHint().width() : 0;
+    return (whole + QSize(bar, 0)).boundedTo(room);
 }
 
 void SettingsWindow::addPlace(QVBoxLayout* column) {

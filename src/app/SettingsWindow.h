@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QScrollArea>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -19,7 +20,7 @@ namespace zephyrix {
 /// The main application's window: the place and its search, units, symbols, where the weather comes
 /// from and how old it is, and whether the panel is shown at login. A choice is stored at once, so
 /// that a panel on the screen shows it at once; what another program stores shows here. Escape
-/// closes it.
+/// closes it. On a screen that is too small for all of it, it is scrolled.
 class SettingsWindow : public QWidget {
     Q_OBJECT
 
@@ -27,12 +28,17 @@ class SettingsWindow : public QWidget {
     /// Raises CommandError when the settings cannot be opened.
     SettingsWindow();
 
+    /// In which nothing needs to be scrolled.
+    [[nodiscard]] QSize wholeSize() const;
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
   private:
+    [[nodiscard]] QVBoxLayout* makeColumn();
+    [[nodiscard]] QSize sizeOnScreen() const;
     void addPlace(QVBoxLayout* column);
     void addChoices(QVBoxLayout* column);
     void addWeather(QVBoxLayout* column);
@@ -46,6 +52,7 @@ class SettingsWindow : public QWidget {
 
     std::unique_ptr<UserDefaults> settings_;
     std::unique_ptr<UserDefaults> panelSettings_;
+    QScrollArea* scroll_;
     PlaceSearch* search_;
     PlaceCard* place_;
     UnitsForm* units_;

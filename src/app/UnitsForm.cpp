@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include <QEvent>
 #include <QGridLayout>
 
 #include "UsualUnits.h"
@@ -88,6 +89,7 @@ void UnitsForm::addChoice(const QuantityUnits& quantity) {
     box->setObjectName(quantity.name.toString());
     box->setAccessibleName(nameOf(quantity));
     box->setMinimumWidth(boxWidth);
+    box->installEventFilter(this);
     for (const Unit& unit : quantity.units)
         box->addItem(localized(unit.text).trimmed(), static_cast<qlonglong>(unit.code));
     auto* const caption = new QLabel(nameOf(quantity), this);
@@ -103,6 +105,14 @@ void UnitsForm::addChoice(const QuantityUnits& quantity) {
         store(choice, choice.box->currentData().toLongLong());
         Q_EMIT changed();
     });
+}
+
+// Who scrolls the window past a unit does not mean to choose another.
+bool UnitsForm::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Wheel)
+        return QWidget::eventFilter(watched, event);
+    event->ignore();
+    return true;
 }
 
 void UnitsForm::takeUsual() {

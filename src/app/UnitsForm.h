@@ -30,6 +30,9 @@ class UnitsForm : public QWidget {
   Q_SIGNALS:
     void changed();
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     struct UnitChoice {
         const QuantityUnits* quantity;

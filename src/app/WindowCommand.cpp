@@ -82,6 +82,7 @@ int showUntilClosed() {
 int writePicture(const QString& file) {
     SettingsWindow window;
     window.setAttribute(Qt::WA_DontShowOnScreen);
+    window.resize(window.wholeSize());
     window.show();
     if (!window.grab().save(file, "png"))
         throw CommandError::failure(QStringLiteral("%1 cannot be written").arg(file));

@@ -7,8 +7,11 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QStandardPaths>
 #include <QTest>
+#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 #include "app/SettingsWindow.h"
@@ -163,6 +166,45 @@ TEST_F(SettingsWindowTest, EveryControlHasANameForAScreenReader) {
         ++controls;
     }
     EXPECT_GE(controls, 9);
+}
+
+TEST_F(SettingsWindowTest, OnASmallScreenEveryControlIsReachedByScrolling) {
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(2.0 * usual.pointSizeF());
+    QApplication::setFont(large);
+    SettingsWindow window;
+    window.show();
+    const QSize room = window.screen()->availableSize();
+    EXPECT_GT(window.wholeSize().height(), room.height());
+    EXPECT_LT(window.height(), room.height()) << "there is a frame around it";
+    EXPECT_LT(window.width(), room.width());
+    const auto* const scroll = window.findChild<QScrollArea*>();
+    ASSERT_NE(scroll, nullptr);
+    int reached = 0;
+    for (QWidget* first = window.focusWidget(); reached == 0 || window.focusWidget() != first;
+         ++reached) {
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+        const QWidget* const control = window.focusWidget();
+        const QRect seen(control->mapTo(scroll->viewport(), QPoint()), control->size());
+        EXPECT_TRUE(scroll->viewport()->rect().contains(seen))
+            << control->objectName().toStdString();
+    }
+    EXPECT_GE(reached, 8);
+    QApplication::setFont(usual);
+}
+
+TEST_F(SettingsWindowTest, ScrollingPastAUnitLeavesIt) {
+    SettingsWindow window;
+    window.show();
+    auto* const wind = named<QComboBox>(window, "wind");
+    const QPointF middle = QRectF(wind->rect()).center();
+    QWheelEvent turn(middle, wind->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(wind, &turn);
+    EXPECT_EQ(wind->currentText(), QStringLiteral("Bft"));
+    EXPECT_FALSE(turn.isAccepted()) << "it is left to the window";
+    EXPECT_FALSE(stored("group.Zephyrix", "wind").isValid());
 }
 
 TEST_F(SettingsWindowTest, ShowsWhatAnotherProgramStores) {
