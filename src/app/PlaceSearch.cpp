@@ -16,6 +16,7 @@ namespace zephyrix {
 namespace {
 
 constexpr std::size_t mostShown = 20;
+constexpr int hintAlpha = 170;  // of 255, of the text's colour; the toolkit's half is hard to read
 
 /// Coordinates in a text: two numbers, latitude first, with a comma or blanks between them.
 std::optional<Coordinate> coordinatesIn(const QString& text) {
@@ -45,16 +46,32 @@ PlaceSearch::PlaceSearch(QWidget* parent)
     field_->setPlaceholderText(localized(u"Search for a place"));
     field_->setAccessibleName(localized(u"Search for a place"));
     field_->setClearButtonEnabled(true);
+    colourHint();
     field_->installEventFilter(this);
     results_->setObjectName(QStringLiteral("results"));
     results_->setAccessibleName(localized(u"Places found"));
     results_->setTextElideMode(Qt::ElideRight);
     results_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    results_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // in the card's place
     results_->hide();
     connect(field_, &QLineEdit::textChanged, this, &PlaceSearch::lookFor);
     connect(field_, &QLineEdit::returnPressed, this, [this] { take(results_->currentRow()); });
     connect(results_, &QListWidget::itemClicked, this, [this] { take(results_->currentRow()); });
     connect(results_, &QListWidget::itemActivated, this, [this] { take(results_->currentRow()); });
+}
+
+void PlaceSearch::colourHint() {
+    QColor color = palette().color(QPalette::Text);
+    color.setAlpha(hintAlpha);
+    QPalette hint;
+    hint.setColor(QPalette::PlaceholderText, color);
+    field_->setPalette(hint);
+}
+
+void PlaceSearch::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        colourHint();
 }
 
 bool PlaceSearch::isActive() const {

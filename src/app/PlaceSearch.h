@@ -28,8 +28,10 @@ class PlaceSearch : public QWidget {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
+    void colourHint();
     void lookFor(const QString& text);
     void show(const std::vector<ListedPlace>& found);
     void take(int row);

@@ -1,5 +1,7 @@
 #include "SettingsWindow.h"
 
+#include <algorithm>
+
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollBar>
@@ -18,8 +20,10 @@ namespace zephyrix {
 
 namespace {
 
-constexpr int leastWidth = 460;   // points, the least
+constexpr int usualWidth = 460;   // points
+constexpr int leastWidth = 420;   // below it, the window is scrolled sideways too
 constexpr int placeHeight = 176;  // of the search and its results, or the place's card
+constexpr int margin = 12;        // around everything
 constexpr int sectionSpacing = 14;
 constexpr QSize desktopsFrame(16, 40);  // about what a desktop puts around a window
 constexpr int everyMinute = 60'000;     // milliseconds
@@ -50,10 +54,15 @@ SettingsWindow::SettingsWindow()
       source_(textLabel(this, 0.9, false)),
       login_(new QCheckBox(localized(u"Show the panel at login"), this)) {
     setWindowTitle(QStringLiteral("Zephyrix"));
-    QVBoxLayout* const column = makeColumn();
+    auto* const content = new QWidget(this);
+    content->setMinimumWidth(leastWidth);
+    auto* const column = new QVBoxLayout(content);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(6);
     addPlace(column);
     addChoices(column);
     addWeather(column);
+    scrollContent(content);
     showStored();
     for (UserDefaults* store : {settings_.get(), panelSettings_.get()})
         connect(store, &UserDefaults::changedByOthers, this, &SettingsWindow::showStored);
@@ -62,11 +71,7 @@ SettingsWindow::SettingsWindow()
     resize(sizeOnScreen());
 }
 
-QVBoxLayout* SettingsWindow::makeColumn() {
-    auto* const content = new QWidget;
-    content->setMinimumWidth(leastWidth);
-    auto* const column = new QVBoxLayout(content);
-    column->setSpacing(6);
+void SettingsWindow::scrollContent(QWidget* content) {
     scroll_->setWidget(content);
     scroll_->setWidgetResizable(true);
     scroll_->setFrameShape(QFrame::NoFrame);
@@ -74,11 +79,12 @@ QVBoxLayout* SettingsWindow::makeColumn() {
     auto* const whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(scroll_);
-    return column;
 }
 
 QSize SettingsWindow::wholeSize() const {
-    return scroll_->widget()->layout()->totalSizeHint().expandedTo(QSize(leastWidth, 0));
+    const QLayout* const column = scroll_->widget()->layout();
+    const int width = std::max(usualWidth, column->totalSizeHint().width());
+    return {width, column->totalHeightForWidth(width)};
 }
 
 QSize SettingsWindow::sizeOnScreen() const {
@@ -161,6 +167,7 @@ void SettingsWindow::showStored() {
 }
 
 void SettingsWindow::showNow() {
+    const int before = wholeSize().height();
     place_->showNow();
     const auto place = placeIn(*settings_);
     const FeedState feed = feedState(panelSettings_->dictionary(QStringLiteral("lastWeatherData")),
@@ -173,6 +180,8 @@ void SettingsWindow::showNow() {
         sources << feed.licence;
     sources << localized(u"Places: %1").arg(placesAttribution);
     source_->setText(sources.join(QLatin1Char('\n')));
+    if (wholeSize().height() > before)
+        resize(size().expandedTo(sizeOnScreen()));
 }
 
 void SettingsWindow::keyPressEvent(QKeyEvent* event) {

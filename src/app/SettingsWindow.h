@@ -37,7 +37,7 @@ class SettingsWindow : public QWidget {
     void hideEvent(QHideEvent* event) override;
 
   private:
-    [[nodiscard]] QVBoxLayout* makeColumn();
+    void scrollContent(QWidget* content);
     [[nodiscard]] QSize sizeOnScreen() const;
     void addPlace(QVBoxLayout* column);
     void addChoices(QVBoxLayout* column);

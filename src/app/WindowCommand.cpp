@@ -7,6 +7,7 @@
 #include <QIcon>
 #include <QPalette>
 
+#include "ControlStyle.h"
 #include "OpenAddress.h"
 #include "SettingsWindow.h"
 
@@ -84,6 +85,7 @@ int writePicture(const QString& file) {
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.resize(window.wholeSize());
     window.show();
+    QApplication::sendPostedEvents();  // with the last of which everything has its place
     if (!window.grab().save(file, "png"))
         throw CommandError::failure(QStringLiteral("%1 cannot be written").arg(file));
     return 0;
@@ -112,6 +114,7 @@ int runWindow(int argc, char** argv, QTextStream& err) {
             qputenv("QT_QPA_PLATFORM", "offscreen");
         const QApplication application(argc, argv);
         QApplication::setDesktopFileName(QStringLiteral("zephyrix"));
+        ControlStyle::useWhereNoneIsChosen();
         choosePalette(options.scheme);
         return options.snapshot.isEmpty() ? showUntilClosed() : writePicture(options.snapshot);
     } catch (const CommandError& error) {

@@ -10,13 +10,16 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QTest>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
+#include "app/ControlStyle.h"
 #include "app/SettingsWindow.h"
 #include "foundation/UserLocale.h"
 #include "model/LocationResult.h"
+#include "support/Contrast.h"
 #include "support/LoopbackServer.h"
 #include "support/TestHome.h"
 
@@ -58,8 +61,11 @@ TEST_F(SettingsWindowTest, APlaceIsFoundAndSetByKeyboardAlone) {
     auto* const field = named<QLineEdit>(window, "search");
     auto* const results = named<QListWidget>(window, "results");
     EXPECT_FALSE(results->isVisible());
+    const QSize whole = window.wholeSize();
     QTest::keyClicks(field, QStringLiteral("springf"));
     EXPECT_TRUE(results->isVisible());
+    EXPECT_EQ(window.wholeSize(), whole) << "the list has the card's room";
+    EXPECT_TRUE(waitUntil([&] { return results->height() > 4 * results->sizeHintForRow(0); }));
     QTest::keyClick(field, Qt::Key_Down);
     const QString second = results->item(1)->text();
     EXPECT_TRUE(results->item(1)->isSelected());
@@ -192,6 +198,26 @@ TEST_F(SettingsWindowTest, OnASmallScreenEveryControlIsReachedByScrolling) {
     }
     EXPECT_GE(reached, 8);
     QApplication::setFont(usual);
+}
+
+TEST_F(SettingsWindowTest, BoxesAndHintsAreSeenOnDarkGround) {
+    const QPalette usual = QApplication::palette();
+    QApplication::setStyle(QStringLiteral("fusion"));
+    ControlStyle::useWhereNoneIsChosen();
+    const QColor ground(30, 36, 48);
+    QApplication::setPalette(QPalette(QColor(44, 51, 66), ground));
+    SettingsWindow window;
+    window.show();
+    auto* const login = named<QCheckBox>(window, "login");
+    const QImage box = login->grab().toImage();
+    double best = 1.0;
+    for (int x = 0; x < login->style()->pixelMetric(QStyle::PM_IndicatorWidth); ++x)
+        best = std::max(best, contrast(box.pixelColor(x, box.height() / 2), ground));
+    EXPECT_GE(best, 3.0);
+    const QPalette field = named<QLineEdit>(window, "search")->palette();
+    const QColor paper = field.color(QPalette::Base);
+    EXPECT_GE(contrast(over(paper, field.color(QPalette::PlaceholderText)), paper), 4.5);
+    QApplication::setPalette(usual);
 }
 
 TEST_F(SettingsWindowTest, ScrollingPastAUnitLeavesIt) {
