@@ -32,7 +32,8 @@ bool hasSelectionOwner(xcb_connection_t* display, std::string_view name) {
 
 bool isComposited() {
     const auto* const x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 == nullptr || hasSelectionOwner(x11->connection(), "_NET_WM_CM_S0");
+    xcb_connection_t* const display = x11 == nullptr ? nullptr : x11->connection();
+    return display == nullptr || hasSelectionOwner(display, "_NET_WM_CM_S0");
 }
 
 }  // namespace zephyrix
