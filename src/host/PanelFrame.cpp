@@ -1,5 +1,7 @@
 #include "PanelFrame.h"
 
+#include <utility>
+
 #include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -30,10 +32,13 @@ PanelFrame::PanelFrame(Qt::WindowFlags flags) : QWidget(nullptr, flags) {
 
 void PanelFrame::hold(PanelView& view) {
     view_ = &view;
-    embed(view);
-    connect(&view, &PanelView::panelHeightChanged, this, [this] { followPanel(); });
-    followPanel();
+    scroll_ = new PanelScroll(this);
+    embed(view, *scroll_);
+    scroll_->hold(view);
+    connect(&view, &PanelView::panelHeightChanged, this, &PanelFrame::followHeight);
+    followHeight();
     view.show();
+    scroll_->show();
     view.focusFirstRow();
 }
 
@@ -41,8 +46,17 @@ void PanelFrame::letGo() {
     if (!view_)
         return;
     view_->disconnect(this);
-    view_->setParent(nullptr);
+    scroll_->letGo();
+    delete std::exchange(scroll_, nullptr);
     view_.clear();
+}
+
+// A lower panel gives its room back before it is taken away, so that no bar comes up between.
+void PanelFrame::followHeight() {
+    if (view_->panelHeight() < view_->height())
+        scroll_->follow();
+    followPanel();
+    scroll_->follow();
 }
 
 bool PanelFrame::event(QEvent* event) {
@@ -61,7 +75,7 @@ void PanelFrame::showEvent(QShowEvent* event) {
 void PanelFrame::followScreen() {
     if (view_ && Screen::main().scale() != devicePixelRatioF()) {
         view_->layOut(view_->width(), devicePixelRatioF());
-        followPanel();
+        followHeight();
     }
 }
 

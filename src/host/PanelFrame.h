@@ -3,12 +3,12 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "PanelView.h"
+#include "PanelScroll.h"
 
 namespace zephyrix {
 
-/// What surrounds the panel on the screen: a window or a popup. It is as high as the panel, and
-/// closes by Escape.
+/// What surrounds the panel on the screen: a window or a popup. It is as high as the panel, but
+/// never larger than the screen has room for, and closes by Escape.
 class PanelFrame : public QWidget {
     Q_OBJECT
 
@@ -26,8 +26,10 @@ class PanelFrame : public QWidget {
 
   protected:
     [[nodiscard]] PanelView* view() const { return view_; }
-    /// Makes the panel a child, shown in its place.
-    virtual void embed(PanelView& view) = 0;
+    /// Holds the panel, while there is one.
+    [[nodiscard]] PanelScroll* scroll() const { return scroll_; }
+    /// Lays the panel out and makes what holds it a child, shown in its place.
+    virtual void embed(PanelView& view, PanelScroll& scroll) = 0;
     /// The panel's height or its source has changed.
     virtual void followPanel() = 0;
 
@@ -40,8 +42,10 @@ class PanelFrame : public QWidget {
   private:
     /// Another screen may have another scale: the panel is laid out anew for it.
     void followScreen();
+    void followHeight();
 
     QPointer<PanelView> view_;
+    PanelScroll* scroll_ = nullptr;
 };
 
 }  // namespace zephyrix

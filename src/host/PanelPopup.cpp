@@ -69,11 +69,11 @@ QRect PanelPopup::placeAt(const QPoint& anchor, const QSize& size, const QRect& 
             size};
 }
 
-void PanelPopup::embed(PanelView& view) {
+void PanelPopup::embed(PanelView& view, PanelScroll& scroll) {
     surface_ = new PanelSurface(this);
     surface_->setComposited(isComposited());
     view.layOut(width_, devicePixelRatioF());
-    surface_->setContent(&view);
+    surface_->setContent(&scroll);
     surface_->show();
 }
 
@@ -83,10 +83,12 @@ void PanelPopup::letGo() {
 }
 
 void PanelPopup::followPanel() {
-    surface_->setSurfaceHeight(view()->panelHeight());
     const QMargins shadow = surface_->shadowMargins();
-    const QSize size = QSize(width_, view()->panelHeight()).grownBy(shadow);
-    setGeometry(placeAt(anchor_, size, screenAt(anchor_)->availableGeometry()));
+    const QRect available = screenAt(anchor_)->availableGeometry();
+    const QSize size =
+        QSize(width_, view()->panelHeight()).boundedTo(available.size().shrunkBy(shadow));
+    surface_->setSurfaceHeight(size.height());
+    setGeometry(placeAt(anchor_, size.grownBy(shadow), available));
     surface_->setGeometry(rect());
     if (shadow.isNull())
         setMask(surface_->maskRegion());

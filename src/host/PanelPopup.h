@@ -32,7 +32,7 @@ class PanelPopup : public PanelFrame {
                                        const QRect& available);
 
   protected:
-    void embed(PanelView& view) override;
+    void embed(PanelView& view, PanelScroll& scroll) override;
     void followPanel() override;
     void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

@@ -1,7 +1,10 @@
 #include "PanelWindow.h"
 
+#include <algorithm>
+
 #include <QPainter>
 #include <QResizeEvent>
+#include <QScreen>
 
 #include "ui/PanelSurface.h"
 #include "ui/Theme.h"
@@ -10,7 +13,7 @@ namespace zephyrix {
 
 namespace {
 
-constexpr int leastWidth = 320;  // points of the panel
+constexpr QSize desktopsFrame(16, 40);  // about what a desktop puts around a window
 
 }  // namespace
 
@@ -19,18 +22,22 @@ PanelWindow::PanelWindow(int width) : PanelFrame(Qt::Window) {
 }
 
 void PanelWindow::setPanelWidth(int width) {
-    setMinimumWidth(Theme::scaled(leastWidth));
-    resize(width, height());
+    setMinimumWidth(std::min(PanelScroll::leastWidth(), room().width()));
+    resize(std::min(width, room().width()), height());
 }
 
-void PanelWindow::embed(PanelView& view) {
-    view.setParent(this);
+QSize PanelWindow::room() const {
+    return screen()->availableSize() - desktopsFrame;
+}
+
+void PanelWindow::embed(PanelView& view, PanelScroll& scroll) {
     view.layOut(width(), devicePixelRatioF());
+    scroll.setGeometry(rect());
 }
 
 void PanelWindow::followPanel() {
-    setFixedHeight(view()->panelHeight());
-    view()->setGeometry(rect());
+    setFixedHeight(std::min(view()->panelHeight(), room().height()));
+    scroll()->setGeometry(rect());
     const QString source = view()->source();
     const QString title = QStringLiteral("Zephyrix");
     setWindowTitle(source.isEmpty() ? title : QStringLiteral("%1 (%2)").arg(title, source));
@@ -46,8 +53,8 @@ void PanelWindow::paintEvent(QPaintEvent* /*event*/) {
 
 void PanelWindow::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    if (view() != nullptr)
-        view()->setGeometry(rect());
+    if (scroll() != nullptr)
+        scroll()->setGeometry(rect());
 }
 
 }  // namespace zephyrix

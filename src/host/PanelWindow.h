@@ -14,10 +14,13 @@ class PanelWindow : public PanelFrame {
     void setPanelWidth(int width);
 
   protected:
-    void embed(PanelView& view) override;
+    void embed(PanelView& view, PanelScroll& scroll) override;
     void followPanel() override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    [[nodiscard]] QSize room() const;
 };
 
 }  // namespace zephyrix

@@ -210,6 +210,16 @@ TEST_F(DesktopTest, SecondStartShowsTheFirstAndReportsGoOn) {
     windowWithSource("a test");
 }
 
+TEST_F(DesktopTest, OnASmallScreenThePanelStaysOnIt) {
+    const ScopedEnvironment scale{{"QT_SCALE_FACTOR", "3"}};  // of 341 x 256 points
+    startWithFeed({toWindow, QStringLiteral("--expanded")});
+    const auto window = windowWithSource("a test");
+    EXPECT_LE(window.area.width(), 1024);
+    EXPECT_LE(window.area.height(), 768 - 3 * 40) << "below a title bar";
+    display().press(window, Key::Escape);
+    EXPECT_TRUE(nothingIsShown());
+}
+
 TEST_F(DesktopTest, PanelLivesInTheTrayWhileThereIsOne) {
     TrayBus bus;
     if (!bus.isRunning())

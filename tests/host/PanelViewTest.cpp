@@ -1,6 +1,9 @@
 #include <memory>
 
 #include <QApplication>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include "cells/ForecastCell.h"
@@ -8,7 +11,9 @@
 #include "cells/Registration.h"
 #include "foundation/Clock.h"
 #include "foundation/Screen.h"
+#include "host/PanelPopup.h"
 #include "host/PanelView.h"
+#include "host/PanelWindow.h"
 #include "support/Documents.h"
 #include "support/TestHome.h"
 
@@ -89,6 +94,51 @@ TEST_F(PanelViewTest, GrowsWithTheDesktopsTexts) {
     EXPECT_EQ(row<ForecastCell>(1)->container()->findChildren<ForecastDayView*>().size(), 4)
         << "400 points of the panel";
     QApplication::setFont(font);
+}
+
+TEST_F(PanelViewTest, WithLittleRoomEverythingIsReachedByScrolling) {
+    view_->layOut(440, 1.0);
+    PanelScroll scroll(nullptr);
+    scroll.hold(*view_);
+    scroll.resize(440, view_->panelHeight());
+    scroll.show();
+    EXPECT_EQ(view_->size(), scroll.size()) << "no bars where it fits";
+    scroll.resize(440, view_->panelHeight() / 2);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view_->width(), scroll.viewport()->width()) << "beside the bar";
+    EXPECT_LT(view_->width(), 440);
+    EXPECT_EQ(view_->height(), view_->panelHeight());
+    view_->focusFirstRow();
+    for (int stop = 0; stop < 3; ++stop) {
+        const QWidget* const focused = scroll.focusWidget();
+        ASSERT_NE(focused, nullptr);
+        const QRect seen(focused->mapTo(scroll.viewport(), QPoint()), focused->size());
+        EXPECT_TRUE(scroll.viewport()->rect().contains(seen)) << stop;
+        QTest::keyClick(scroll.focusWidget(), Qt::Key_Tab);
+    }
+    scroll.resize(200, 100);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view_->width(), PanelScroll::leastWidth()) << "narrower, its rows would overlap";
+    EXPECT_TRUE(scroll.horizontalScrollBar()->isVisible());
+    scroll.letGo();
+}
+
+template <class Frame>
+void expectOnScreen(PanelView& view, int width) {
+    Frame frame(width);
+    frame.hold(view);
+    frame.show();
+    const QRect room = frame.screen()->availableGeometry();
+    EXPECT_TRUE(room.contains(frame.geometry())) << frame.width() << " x " << frame.height();
+    EXPECT_EQ(view.height(), view.panelHeight()) << "all of it is there, to be scrolled to";
+    frame.letGo();
+}
+
+TEST_F(PanelViewTest, NoFrameIsLargerThanTheScreen) {
+    const int width = QApplication::primaryScreen()->availableSize().width() + 80;
+    view_->layOut(width, 1.0);
+    expectOnScreen<PanelWindow>(*view_, width);
+    expectOnScreen<PanelPopup>(*view_, width);
 }
 
 TEST_F(PanelViewTest, SourceIsNamedBelowTheRows) {
