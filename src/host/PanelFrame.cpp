@@ -34,9 +34,10 @@ void PanelFrame::hold(PanelView& view) {
     view_ = &view;
     scroll_ = new PanelScroll(this);
     embed(view, *scroll_);
+    followPanel();  // so that there is room when it comes
     scroll_->hold(view);
+    scroll_->follow();
     connect(&view, &PanelView::panelHeightChanged, this, &PanelFrame::followHeight);
-    followHeight();
     view.show();
     scroll_->show();
     view.focusFirstRow();

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QPainter>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleOptionSlider>
 
@@ -41,43 +43,69 @@ class Handle : public QScrollBar {
 
 }  // namespace
 
-PanelScroll::PanelScroll(QWidget* parent) : QScrollArea(parent) {
-    setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus);  // it follows the focus of the rows
-    viewport()->setAutoFillBackground(false);
-    setVerticalScrollBar(new Handle(Qt::Vertical, this));
-    setHorizontalScrollBar(new Handle(Qt::Horizontal, this));
-    constexpr auto corner = static_cast<int>(Theme::surfaceRadius);
-    for (const auto side : {Qt::AlignTop, Qt::AlignBottom, Qt::AlignLeft, Qt::AlignRight}) {
-        auto* const kept = new QWidget(this);
-        kept->setFixedSize(corner, corner);
-        addScrollBarWidget(kept, side);
-    }
-}
-
 int PanelScroll::leastWidth() {
     return Theme::scaled(leastPanelWidth);
 }
 
 void PanelScroll::hold(PanelView& view) {
     view_ = &view;
-    setWidget(&view);
-    view.setAutoFillBackground(false);  // the surface shows through
+    view.setParent(this);
+    follow();
 }
 
 void PanelScroll::letGo() {
-    takeWidget();
+    view_->setParent(nullptr);
     view_.clear();
 }
 
 void PanelScroll::follow() {
-    if (view_)
-        view_->resize(std::max(viewport()->width(), leastWidth()), view_->panelHeight());
+    if (!view_)
+        return;
+    const int height = view_->panelHeight();
+    if (area_ == nullptr && width() >= leastWidth() && this->height() >= height)
+        return view_->setGeometry(rect());
+    if (area_ == nullptr)
+        makeArea();
+    view_->resize(std::max(area_->viewport()->width(), leastWidth()), height);
+}
+
+void PanelScroll::makeArea() {
+    QPointer<QWidget> focused =
+        view_->isAncestorOf(QApplication::focusWidget()) ? QApplication::focusWidget() : nullptr;
+    area_ = new QScrollArea(this);
+    area_->setFrameShape(QFrame::NoFrame);
+    area_->setFocusPolicy(Qt::NoFocus);  // it follows the focus of the rows
+    area_->setVerticalScrollBar(new Handle(Qt::Vertical, area_));
+    area_->setHorizontalScrollBar(new Handle(Qt::Horizontal, area_));
+    constexpr auto corner = static_cast<int>(Theme::surfaceRadius);
+    for (const auto side : {Qt::AlignTop, Qt::AlignBottom, Qt::AlignLeft, Qt::AlignRight}) {
+        auto* const kept = new QWidget(area_);
+        kept->setFixedSize(corner, corner);
+        area_->addScrollBarWidget(kept, side);
+    }
+    area_->viewport()->installEventFilter(this);
+    area_->setGeometry(rect());
+    const bool wasHidden = view_->isHidden();
+    area_->setWidget(view_);
+    area_->viewport()->setAutoFillBackground(false);  // the surface shows through
+    view_->setAutoFillBackground(false);
+    view_->setHidden(wasHidden);
+    area_->show();
+    if (focused)
+        focused->setFocus(Qt::OtherFocusReason);
+}
+
+bool PanelScroll::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize)
+        follow();
+    return QWidget::eventFilter(watched, event);
 }
 
 void PanelScroll::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (area_ != nullptr)
+        area_->setGeometry(rect());
     follow();
-    QScrollArea::resizeEvent(event);
 }
 
 }  // namespace zephyrix

@@ -1,19 +1,21 @@
 #pragma once
 
 #include <QPointer>
-#include <QScrollArea>
 
 #include "PanelView.h"
+
+class QScrollArea;
 
 namespace zephyrix {
 
 /// The panel in the room that there is for it: whole where it fits, else scrolled by wheel, by bars
-/// and with the focus. Its bars keep out of the surface's rounded corners.
-class PanelScroll : public QScrollArea {
+/// and with the focus. Its bars keep out of the surface's rounded corners. They and all that goes
+/// with them are made when they are needed first: the first paint does not pay for them.
+class PanelScroll : public QWidget {
     Q_OBJECT
 
   public:
-    explicit PanelScroll(QWidget* parent);
+    explicit PanelScroll(QWidget* parent) : QWidget(parent) {}
 
     /// Takes the panel in. It must leave by letGo() before either of them ends.
     void hold(PanelView& view);
@@ -27,9 +29,13 @@ class PanelScroll : public QScrollArea {
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void makeArea();
+
     QPointer<PanelView> view_;
+    QScrollArea* area_ = nullptr;  // none while the panel has always fitted
 };
 
 }  // namespace zephyrix

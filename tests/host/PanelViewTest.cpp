@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -101,25 +102,29 @@ TEST_F(PanelViewTest, WithLittleRoomEverythingIsReachedByScrolling) {
     PanelScroll scroll(nullptr);
     scroll.hold(*view_);
     scroll.resize(440, view_->panelHeight());
+    view_->show();
     scroll.show();
-    EXPECT_EQ(view_->size(), scroll.size()) << "no bars where it fits";
+    EXPECT_EQ(view_->size(), scroll.size());
+    EXPECT_EQ(scroll.findChild<QScrollArea*>(), nullptr) << "no bars where it fits";
     scroll.resize(440, view_->panelHeight() / 2);
     QCoreApplication::processEvents();
-    EXPECT_EQ(view_->width(), scroll.viewport()->width()) << "beside the bar";
+    const auto* const area = scroll.findChild<QScrollArea*>();
+    ASSERT_NE(area, nullptr);
+    EXPECT_EQ(view_->width(), area->viewport()->width()) << "beside the bar";
     EXPECT_LT(view_->width(), 440);
     EXPECT_EQ(view_->height(), view_->panelHeight());
     view_->focusFirstRow();
     for (int stop = 0; stop < 3; ++stop) {
         const QWidget* const focused = scroll.focusWidget();
         ASSERT_NE(focused, nullptr);
-        const QRect seen(focused->mapTo(scroll.viewport(), QPoint()), focused->size());
-        EXPECT_TRUE(scroll.viewport()->rect().contains(seen)) << stop;
+        const QRect seen(focused->mapTo(area->viewport(), QPoint()), focused->size());
+        EXPECT_TRUE(area->viewport()->rect().contains(seen)) << stop;
         QTest::keyClick(scroll.focusWidget(), Qt::Key_Tab);
     }
     scroll.resize(200, 100);
     QCoreApplication::processEvents();
     EXPECT_EQ(view_->width(), PanelScroll::leastWidth()) << "narrower, its rows would overlap";
-    EXPECT_TRUE(scroll.horizontalScrollBar()->isVisible());
+    EXPECT_TRUE(area->horizontalScrollBar()->isVisible());
     scroll.letGo();
 }
 
