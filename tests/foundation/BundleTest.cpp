@@ -1,48 +1,29 @@
+#include <array>
+
 #include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
 
 #include "foundation/Bundle.h"
+#include "support/DataLines.h"
 #include "support/ScopedEnvironment.h"
 #include "support/TestHome.h"
 
 namespace zephyrix {
 namespace {
 
-using testing::ScopedEnvironment;
+using namespace zephyrix::testing;
 
 TEST(Bundle, TheEnvironmentChoosesTheLanguages) {
-    struct Case {
-        const char* language;
-        const char* all;
-        const char* messages;
-        const char* lang;
-        const char* expected;
-    };
-    const Case cases[] = {
-        {nullptr, nullptr, nullptr, "de_AT.UTF-8", "de en"},
-        {nullptr, nullptr, "fr_FR@euro", "de_DE", "fr en"},
-        {nullptr, "sv_SE", "fr_FR", "de_DE", "sv en"},
-        {nullptr, "", "", "ru_RU", "ru en"},     // empty is unset
-        {nullptr, "C", nullptr, "de_DE", "en"},  // C is English, not the next variable
-        {nullptr, "C.UTF-8", nullptr, "de_DE", "en"},
-        {nullptr, nullptr, nullptr, "POSIX", "en"},
-        {nullptr, nullptr, nullptr, nullptr, "en"},
-        {nullptr, nullptr, nullptr, "tlh_001", "en"},  // no table
-        {nullptr, nullptr, nullptr, "deu_DE", "en"},   // no two-letter code
-        {"xx:de", nullptr, nullptr, "en_US", "de en"},
-        {"pl:nl_BE:pl_PL:", nullptr, nullptr, "it_IT", "pl nl it en"},
-        {"en:de", nullptr, nullptr, "de_DE", "en de"},
-        {"pt-BR:es-MX", "C", nullptr, nullptr, "es en"},
-    };
-    for (const Case& row : cases) {
-        const ScopedEnvironment environment({{"LANGUAGE", row.language},
-                                             {"LC_ALL", row.all},
-                                             {"LC_MESSAGES", row.messages},
-                                             {"LANG", row.lang}});
-        EXPECT_EQ(Bundle().preferredLocalizations().join(QLatin1Char(' ')),
-                  QLatin1String(row.expected));
-    }
+    forEachLine("foundation/languages.tsv", [](const DataLine& line) {
+        const std::array variables{line.utf8(0), line.utf8(1), line.utf8(2), line.utf8(3)};
+        const auto set = [&](std::size_t variable) {
+            return variables.at(variable) == "-" ? nullptr : variables.at(variable).constData();
+        };
+        const ScopedEnvironment environment(
+            {{"LANGUAGE", set(0)}, {"LC_ALL", set(1)}, {"LC_MESSAGES", set(2)}, {"LANG", set(3)}});
+        EXPECT_EQ(Bundle().preferredLocalizations().join(QLatin1Char(' ')), line[4]);
+    });
 }
 
 TEST(Bundle, TextsComeFromTheTableOfTheFirstLanguage) {
@@ -63,7 +44,7 @@ TEST(Bundle, TextsComeFromTheTableOfTheFirstLanguage) {
 }
 
 TEST(Bundle, DataFilesAreFoundByPlainNamesOnly) {
-    const QString folder = testing::freshFolder();
+    const QString folder = freshFolder();
     ASSERT_TRUE(QDir(folder).mkpath(QStringLiteral("data/symbols_1.bundle")));
     ASSERT_TRUE(QFile(folder + QStringLiteral("/secret")).open(QIODevice::WriteOnly));
     Bundle bundle;

@@ -1,5 +1,3 @@
-#include <limits>
-
 #include <gtest/gtest.h>
 
 #include "foundation/NumberFormatter.h"
@@ -10,8 +8,7 @@
 namespace zephyrix {
 namespace {
 
-using testing::dataLines;
-using testing::ScopedEnvironment;
+using namespace zephyrix::testing;
 
 NumberFormatter formatterWithFraction(int minimum, int maximum) {
     NumberFormatter formatter;
@@ -21,11 +18,11 @@ NumberFormatter formatterWithFraction(int minimum, int maximum) {
 }
 
 TEST(NumberFormatter, RoundsTheShortestTextHalfToEven) {
-    for (const QStringList& line : dataLines(QStringLiteral("foundation/number_texts.txt"))) {
-        const NumberFormatter formatter = formatterWithFraction(line[1].toInt(), line[2].toInt());
-        EXPECT_EQ(formatter.stringFromNumber(line[0].toDouble()), line[3])
-            << qPrintable(line.join(u' '));
-    }
+    forEachLine("foundation/number_texts.txt", [](const DataLine& line) {
+        const NumberFormatter formatter = formatterWithFraction(static_cast<int>(line.integer(1)),
+                                                                static_cast<int>(line.integer(2)));
+        EXPECT_EQ(formatter.stringFromNumber(line.number(0)), line[3]);
+    });
 }
 
 TEST(NumberFormatter, FollowsTheLocaleOfItsFirstText) {
@@ -62,33 +59,15 @@ TEST(NumberFormatter, FractionLimitsGiveWayToEachOther) {
     EXPECT_EQ(formatter.stringFromNumber(2.0), QStringLiteral("2.0"));
 }
 
-struct LocaleCase {
-    const char* all;
-    const char* numeric;
-    const char* time;
-    const char* lang;
-    const char* numbers;
-    const char* dates;
-    const char* why;
-};
-
 TEST(UserLocale, TheEnvironmentDecidesAsInEveryProgram) {
-    const LocaleCase cases[] = {
-        {"", "", "", "", "en_US_POSIX", "en_US_POSIX", "nothing is set"},
-        {"", "", "", "C.UTF-8", "en_US_POSIX", "en_US_POSIX", "the C locale"},
-        {"", "", "", "de_AT.UTF-8", "de_AT", "de_AT", "the language alone"},
-        {"", "fr_FR", "sv_SE.utf8", "de_DE", "fr_FR", "sv_SE", "each category its own"},
-        {"POSIX", "fr_FR", "sv_SE", "de_DE", "en_US_POSIX", "en_US_POSIX", "LC_ALL wins"},
-        {"", "", "", "de_DE@euro", "de_DE", "de_DE", "a modifier without meaning here"},
-        {"", "", "", "sr_RS.UTF-8@latin", "sr_Latn_RS", "sr_Latn_RS", "a script"},
-        {"", "", "", "eo", "eo", "eo", "a language without a country"},
-    };
-    for (const LocaleCase& c : cases) {
-        const ScopedEnvironment environment(
-            {{"LC_ALL", c.all}, {"LC_NUMERIC", c.numeric}, {"LC_TIME", c.time}, {"LANG", c.lang}});
-        EXPECT_STREQ(UserLocale::forNumbers().constData(), c.numbers) << c.why;
-        EXPECT_STREQ(UserLocale::forDates().constData(), c.dates) << c.why;
-    }
+    forEachLine("foundation/locales.tsv", [](const DataLine& line) {
+        const ScopedEnvironment environment({{"LC_ALL", line.utf8(0).constData()},
+                                             {"LC_NUMERIC", line.utf8(1).constData()},
+                                             {"LC_TIME", line.utf8(2).constData()},
+                                             {"LANG", line.utf8(3).constData()}});
+        EXPECT_EQ(UserLocale::forNumbers(), line.utf8(4));
+        EXPECT_EQ(UserLocale::forDates(), line.utf8(5));
+    });
 }
 
 }  // namespace

@@ -2,16 +2,16 @@
 // what Python's own reader and writer of property lists make of ours.
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QProcess>
 #include <gtest/gtest.h>
 
 #include "SettingsFolder.h"
+#include "support/Programs.h"
+#include "support/TestHome.h"
 
 namespace zephyrix {
 namespace {
 
-using testing::contentOf;
-using testing::openSuite;
+using namespace zephyrix::testing;
 
 /// The first Python program in the document.
 QByteArray documentedExample() {
@@ -27,21 +27,17 @@ QByteArray documentedExample() {
 class SettingsDocument : public ::testing::Test {
   protected:
     /// Runs a Python program to its end; what it printed.
-    static QByteArray runPython(const QByteArray& program, const QStringList& arguments = {}) {
-        QProcess python;
-        python.setProcessChannelMode(QProcess::MergedChannels);
-        python.start(QStringLiteral("python3"), QStringList{QStringLiteral("-")} + arguments);
-        python.write(program);
-        python.closeWriteChannel();
-        EXPECT_TRUE(python.waitForFinished(60000)) << qPrintable(python.errorString());
-        const QByteArray output = python.readAll();
-        EXPECT_EQ(python.exitCode(), 0) << output.constData();
-        return output;
+    static QByteArray runPython(const QByteArray& program, const QString& argument = {}) {
+        const QString file = freshFolder() + QStringLiteral("/program.py");
+        overwrite(file, program);
+        const Outcome python = runCommand(QStringLiteral("python3 %1 %2").arg(file, argument));
+        EXPECT_EQ(python.exitCode, 0) << python.err.constData();
+        return python.out;
     }
 
     int argc_ = 0;
     QCoreApplication application_{argc_, nullptr};
-    testing::SettingsFolder folder_;
+    SettingsFolder folder_;
 };
 
 TEST_F(SettingsDocument, ItsExampleStoresAPlaceAndKeepsTheRest) {
@@ -85,7 +81,7 @@ TEST_F(SettingsDocument, EachTypeSurvivesAForeignReaderAndWriter) {
         "suite = plistlib.load(open(sys.argv[1], 'rb'))\n"
         "for key, value in sorted(suite['values'].items()): print(key, ascii(value))\n"
         "plistlib.dump(suite, open(sys.argv[1], 'wb'))\n",
-        {store->fileName()});
+        store->fileName());
     EXPECT_EQ(printed, "data b'" + QByteArray("\\xfe").repeated(200) +
                            "'\n"
                            "date datetime.datetime(2015, 3, 29, 2, 30)\n"

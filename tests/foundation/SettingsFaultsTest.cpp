@@ -23,13 +23,11 @@
 namespace zephyrix {
 namespace {
 
+using namespace zephyrix::testing;
 using ::testing::AllOf;
-using testing::contentOf;
 using ::testing::ExitedWithCode;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-using testing::openSuite;
-using testing::overwrite;
 using ::testing::ResultOf;
 
 const QString city = QStringLiteral("city");
@@ -41,10 +39,6 @@ auto oneLineWith(const std::string& text) {
         return std::count(log.begin(), log.end(), '\n');
     };
     return AllOf(HasSubstr(text), ResultOf("number of lines", lines, 1));
-}
-
-QString filePath(const testing::SettingsFolder& folder) {
-    return folder.make() + QStringLiteral("/group.Zephyrix.plist");
 }
 
 /// Even the superuser is bound by permission bits from here on.
@@ -60,9 +54,18 @@ void require(bool condition, int code) {
         std::_Exit(code);
 }
 
-TEST(SettingsFaults, ADamagedFileIsKeptAsideAndTold) {
-    const testing::SettingsFolder folder;
-    const QString path = filePath(folder);
+/// A store's file, in a folder that is there.
+class SettingsFaults : public ::testing::Test {
+  protected:
+    static void allow(const QString& what, mode_t mode) {
+        ::chmod(QFile::encodeName(what).constData(), mode);
+    }
+
+    SettingsFolder folder;
+    QString path = folder.make() + QStringLiteral("/group.Zephyrix.plist");
+};
+
+TEST_F(SettingsFaults, ADamagedFileIsKeptAsideAndTold) {
     const QByteArray damaged[] = {"",
                                   "rubbish",
                                   "<plist><dict>",
@@ -84,22 +87,21 @@ TEST(SettingsFaults, ADamagedFileIsKeptAsideAndTold) {
     EXPECT_EQ(contentOf(path + QStringLiteral(".corrupt-2")), damaged[1]);
 }
 
-TEST(SettingsFaults, AFileDamagedWhileTheStoreIsOpenIsKeptAside) {
-    const testing::SettingsFolder folder;
+TEST_F(SettingsFaults, AFileDamagedWhileTheStoreIsOpenIsKeptAside) {
     const auto store = openSuite();
     store->set(wind, 1);
     ::testing::internal::CaptureStderr();
-    overwrite(filePath(folder), "rubbish");
+    overwrite(path, "rubbish");
     EXPECT_TRUE(store->synchronize());
     EXPECT_THAT(::testing::internal::GetCapturedStderr(), oneLineWith(".corrupt-1"));
-    EXPECT_EQ(contentOf(filePath(folder) + QStringLiteral(".corrupt-1")), QByteArray("rubbish"));
+    EXPECT_EQ(contentOf(path + QStringLiteral(".corrupt-1")), QByteArray("rubbish"));
 }
 
-TEST(SettingsFaults, WhatIsNoFileIsLeftAlone) {
+TEST_F(SettingsFaults, WhatIsNoFileIsLeftAlone) {
+    const QByteArray name = QFile::encodeName(path);
     for (const bool pipe : {false, true}) {
-        const testing::SettingsFolder folder;
-        const QByteArray path = QFile::encodeName(filePath(folder));
-        ASSERT_EQ(pipe ? ::mkfifo(path.constData(), 0600) : ::mkdir(path.constData(), 0700), 0);
+        QFile::remove(path);
+        ASSERT_EQ(pipe ? ::mkfifo(name.constData(), 0600) : ::mkdir(name.constData(), 0700), 0);
         ::testing::internal::CaptureStderr();
         const auto store = openSuite();
         store->set(wind, 1);
@@ -107,36 +109,33 @@ TEST(SettingsFaults, WhatIsNoFileIsLeftAlone) {
         EXPECT_FALSE(store->synchronize());
         EXPECT_EQ(store->integer(wind), 1);
         EXPECT_THAT(::testing::internal::GetCapturedStderr(), oneLineWith("cannot be read"));
-        ASSERT_EQ(std::remove(path.constData()), 0);
+        ASSERT_EQ(std::remove(name.constData()), 0);
         EXPECT_TRUE(store->synchronize());
         EXPECT_EQ(openSuite()->integer(wind), 1);
     }
 }
 
-TEST(SettingsFaults, APipeBesideTheFileHoldsNobody) {
+TEST_F(SettingsFaults, APipeBesideTheFileHoldsNobody) {
     for (const char* name : {".lock", ".new"}) {
-        const testing::SettingsFolder folder;
-        const QString path = filePath(folder);
         ASSERT_EQ(::mkfifo(QFile::encodeName(path + QLatin1String(name)).constData(), 0600), 0);
         const auto store = openSuite();
         store->set(wind, 1);
         static_cast<void>(store->synchronize());  // comes back, with or without success
         EXPECT_EQ(store->integer(wind), 1);
+        ASSERT_TRUE(QFile::remove(path + QLatin1String(name)));
     }
 }
 
-TEST(SettingsFaults, AnUnreadableFileIsLeftAlone) {
-    const testing::SettingsFolder folder;
-    const QString path = filePath(folder);
+TEST_F(SettingsFaults, AnUnreadableFileIsLeftAlone) {
     const auto scenario = [&] {
         dropCapabilities();
         overwrite(path, sound);
-        ::chmod(QFile::encodeName(path).constData(), 0);
+        allow(path, 0);
         const auto store = openSuite();
         store->set(wind, 1);
         require(!store->synchronize() && !store->synchronize(), 1);
         require(store->integer(wind) == 1 && store->integer(city) == 0, 2);
-        ::chmod(QFile::encodeName(path).constData(), 0600);
+        allow(path, 0600);
         require(contentOf(path) == sound, 3);
         require(store->synchronize() && store->integer(city) == 7, 4);
         std::_Exit(openSuite()->integer(wind) == 1 ? 0 : 5);
@@ -144,32 +143,28 @@ TEST(SettingsFaults, AnUnreadableFileIsLeftAlone) {
     EXPECT_EXIT(scenario(), ExitedWithCode(0), oneLineWith("cannot be read (Permission denied)"));
 }
 
-TEST(SettingsFaults, AReadOnlyFolderIsReadAndToldOnce) {
-    const testing::SettingsFolder folder;
-    const QString path = filePath(folder);
+TEST_F(SettingsFaults, AReadOnlyFolderIsReadAndToldOnce) {
     const auto scenario = [&] {
         dropCapabilities();
         overwrite(path, sound);
-        ::chmod(QFile::encodeName(folder.path()).constData(), 0500);
+        allow(folder.path(), 0500);
         const auto store = openSuite();
         require(store->integer(city) == 7, 1);
         store->set(wind, 1);
         require(!store->synchronize() && !store->synchronize(), 2);
         require(store->integer(wind) == 1 && contentOf(path) == sound, 3);
-        ::chmod(QFile::encodeName(folder.path()).constData(), 0700);
+        allow(folder.path(), 0700);
         std::_Exit(store->synchronize() && openSuite()->integer(wind) == 1 ? 0 : 4);
     };
     EXPECT_EXIT(scenario(), ExitedWithCode(0),
                 oneLineWith("cannot be written (Permission denied)"));
 }
 
-TEST(SettingsFaults, ADamagedFileInAReadOnlyFolderIsNotOverwritten) {
-    const testing::SettingsFolder folder;
-    const QString path = filePath(folder);
+TEST_F(SettingsFaults, ADamagedFileInAReadOnlyFolderIsNotOverwritten) {
     const auto scenario = [&] {
         dropCapabilities();
         overwrite(path, "rubbish");
-        ::chmod(QFile::encodeName(folder.path()).constData(), 0500);
+        allow(folder.path(), 0500);
         const auto store = openSuite();
         store->set(wind, 1);
         require(store->integer(wind) == 1 && !store->synchronize(), 1);
@@ -179,9 +174,7 @@ TEST(SettingsFaults, ADamagedFileInAReadOnlyFolderIsNotOverwritten) {
 }
 
 /// A process may write files of at most 1000 bytes: writing fails in the middle, as on a full disk.
-TEST(SettingsFaults, AFullDiskKeepsTheOldFileAndIsTriedAgain) {
-    const testing::SettingsFolder folder;
-    const QString path = filePath(folder);
+TEST_F(SettingsFaults, AFullDiskKeepsTheOldFileAndIsTriedAgain) {
     const auto scenario = [&] {
         int argc = 0;
         const QCoreApplication application(argc, nullptr);
@@ -205,9 +198,8 @@ TEST(SettingsFaults, AFullDiskKeepsTheOldFileAndIsTriedAgain) {
     EXPECT_EXIT(scenario(), ExitedWithCode(0), oneLineWith("cannot be written (File too large)"));
 }
 
-TEST(SettingsFaults, AHeldLockCostsLessThanASecond) {
-    const testing::SettingsFolder folder;
-    const QByteArray lockPath = QFile::encodeName(filePath(folder) + QStringLiteral(".lock"));
+TEST_F(SettingsFaults, AHeldLockCostsLessThanASecond) {
+    const QByteArray lockPath = QFile::encodeName(path + QStringLiteral(".lock"));
     const auto store = openSuite();
     const int lock = ::open(lockPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
     ASSERT_EQ(::flock(lock, LOCK_EX), 0);
@@ -224,20 +216,19 @@ TEST(SettingsFaults, AHeldLockCostsLessThanASecond) {
 }
 
 /// The standard store is written when the process ends, when the application is long gone.
-TEST(SettingsFaults, TheStandardStoreIsWrittenAtTheEndOfTheProcess) {
-    const testing::SettingsFolder folder;
-    static QString path;
+TEST_F(SettingsFaults, TheStandardStoreIsWrittenAtTheEndOfTheProcess) {
+    static QString file;
     const auto scenario = [] {
-        std::atexit([] { std::_Exit(contentOf(path).contains("<integer>5</integer>") ? 0 : 1); });
+        std::atexit([] { std::_Exit(contentOf(file).contains("<integer>5</integer>") ? 0 : 1); });
         int argc = 0;
         const QCoreApplication application(argc, nullptr);
         UserDefaults& store = UserDefaults::standard();
-        path = store.fileName();
+        file = store.fileName();
         QObject::connect(&store, &UserDefaults::changedByOthers, [] {});
         QCoreApplication::processEvents();
         store.set(wind, 5);
         // Read again at the very end, when much of Qt has ended already.
-        overwrite(path,
+        overwrite(file,
                   "<plist><dict><key>when</key><date>2015-06-01T10:00:00Z</date></dict></plist>");
     };
     EXPECT_EXIT((scenario(), std::exit(2)), ExitedWithCode(0), IsEmpty());

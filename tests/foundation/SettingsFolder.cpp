@@ -26,15 +26,4 @@ std::unique_ptr<UserDefaults> openSuite() {
     return UserDefaults::suite(QStringLiteral("group.Zephyrix"));
 }
 
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void overwrite(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(bytes);
-}
-
 }  // namespace zephyrix::testing

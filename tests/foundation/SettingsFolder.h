@@ -6,6 +6,7 @@
 #include <QString>
 
 #include "foundation/UserDefaults.h"
+#include "support/Files.h"
 
 namespace zephyrix::testing {
 
@@ -29,8 +30,5 @@ class SettingsFolder {
 
 /// The suite "group.Zephyrix" of the settings folder.
 [[nodiscard]] std::unique_ptr<UserDefaults> openSuite();
-
-[[nodiscard]] QByteArray contentOf(const QString& path);
-void overwrite(const QString& path, const QByteArray& bytes);
 
 }  // namespace zephyrix::testing

@@ -18,9 +18,7 @@
 namespace zephyrix {
 namespace {
 
-using testing::contentOf;
-using testing::openSuite;
-using testing::overwrite;
+using namespace zephyrix::testing;
 
 const QString wind = QStringLiteral("wind");
 
@@ -60,7 +58,7 @@ double secondsOf(const std::function<void()>& work) {
 
 TEST(SettingsProcesses, TwoWritersLoseNoKey) {
     constexpr int keys = 300;
-    const testing::SettingsFolder folder;
+    const SettingsFolder folder;
     const auto writer = [](const QString& name) {
         const auto store = openSuite();
         for (int i = 0; i < keys; ++i) {
@@ -84,7 +82,7 @@ TEST(SettingsProcesses, TwoWritersLoseNoKey) {
 
 TEST(SettingsProcesses, AKillInMidWriteTearsNothingAndStallsNobody) {
     constexpr int kills = 50;
-    const testing::SettingsFolder folder;
+    const SettingsFolder folder;
     const auto seed = std::random_device()();
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
@@ -150,7 +148,7 @@ class ChangeNotice : public ::testing::Test {
 
     int argc_ = 0;
     QCoreApplication application_{argc_, nullptr};
-    testing::SettingsFolder folder_;
+    SettingsFolder folder_;
     std::unique_ptr<UserDefaults> store_ = openSuite();
     int notices_ = 0;
 };

@@ -12,16 +12,15 @@
 namespace zephyrix {
 namespace {
 
-using testing::contentOf;
+using namespace zephyrix::testing;
 using ::testing::HasSubstr;
-using testing::openSuite;
 
 const QString city = QStringLiteral("city");
 const QString wind = QStringLiteral("wind");
 
 class UserDefaultsTest : public ::testing::Test {
   protected:
-    testing::SettingsFolder folder_;
+    SettingsFolder folder_;
 };
 
 TEST_F(UserDefaultsTest, ValuesOutliveTheStore) {
@@ -106,8 +105,7 @@ TEST_F(UserDefaultsTest, ChangesOfOneTurnAreOneWriteAtTheNext) {
 
 TEST_F(UserDefaultsTest, FilesAreTheOwnersAloneAlsoThoseThatOthersMade) {
     QDir().mkpath(folder_.path());
-    testing::overwrite(folder_.path() + QStringLiteral("/group.Zephyrix.plist"),
-                       "<plist><dict/></plist>");
+    overwrite(folder_.path() + QStringLiteral("/group.Zephyrix.plist"), "<plist><dict/></plist>");
     ASSERT_TRUE(QFileInfo(folder_.path()).permissions() & QFile::ReadOther);
     openSuite()->set(city, 1);
     const auto others = ~(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner |
@@ -152,7 +150,7 @@ TEST_F(UserDefaultsTest, ALinkToTheFileStays) {
     const auto store = openSuite();
     ASSERT_TRUE(QFile::link(target, store->fileName()));
     ASSERT_TRUE(QFile(target).open(QIODevice::WriteOnly));
-    testing::overwrite(target, "<plist><dict><key>city</key><integer>7</integer></dict></plist>");
+    overwrite(target, "<plist><dict><key>city</key><integer>7</integer></dict></plist>");
     store->set(wind, 2);
     ASSERT_TRUE(store->synchronize());
     EXPECT_EQ(store->integer(city), 7);
