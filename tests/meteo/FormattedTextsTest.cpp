@@ -7,7 +7,7 @@
 namespace zephyrix {
 namespace {
 
-using testing::dataLines;
+using namespace zephyrix::testing;
 
 /// Each test sees formatters of its own, in English.
 class FormattedTexts : public ::testing::Test {
@@ -33,9 +33,9 @@ QString formatted(const QString& operation, const Number& number, UnitCode unit)
 
 // In turn on the shared formatters, so that nothing of one text may stay for the next.
 TEST_F(FormattedTexts, AreThoseOfTheTable) {
-    for (const QStringList& line : dataLines(QStringLiteral("meteo/number_texts.txt")))
-        EXPECT_EQ(formatted(line[0], Number(line[1].toDouble()), line[2].toInt()), line[3])
-            << qPrintable(line.join(u' '));
+    forEachLine("meteo/number_texts.txt", [](const DataLine& line) {
+        EXPECT_EQ(formatted(line[0], Number(line.number(1)), line.integer(2)), line[3]);
+    });
 }
 
 TEST_F(FormattedTexts, KnowAbsentNumbersAndHiddenUnits) {

@@ -13,7 +13,7 @@
 namespace zephyrix {
 namespace {
 
-using testing::dataLines;
+using namespace zephyrix::testing;
 
 constexpr double missing = MeteoMapping::missingValue;
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
@@ -54,26 +54,9 @@ TEST(Formulas, SaturationPressureAgreesWithGoffAndGratch) {
 }
 
 TEST(Formulas, SaturationPressureHasItsRanges) {
-    const struct {
-        double temperature;
-        bool ice;
-        double pressure;
-        const char* why;
-    } cases[] = {
-        {0.0, false, 6.11, "the constant"},
-        {0.0, true, 6.11, "the constant"},
-        {60.0, false, 6.11 * std::exp(17.62 * 60.0 / 303.12), "natural exponent up to 60"},
-        {60.0001, false, 6.11 * std::pow(10.0, 7.48 * 60.0001 / 297.0001), "base 10 above"},
-        {-45.001, false, missing, "too cold for water"},
-        {100.001, false, missing, "too hot for water"},
-        {-65.001, true, missing, "too cold for ice"},
-        {0.02, true, missing, "too warm for ice"},
-        {-9998.1, true, missing, "missing"},
-        {missing, false, missing, "missing"},
-        {notANumber, true, missing, "not-a-number is in no range of ice"},
-    };
-    for (const auto& c : cases)
-        EXPECT_DOUBLE_EQ(MeteoMapping::e_vap(c.temperature, c.ice), c.pressure) << c.why;
+    forEachLine("meteo/vapour_pressure_ranges.tsv", [](const DataLine& line) {
+        EXPECT_DOUBLE_EQ(MeteoMapping::e_vap(line.number(0), line.isYes(1)), line.number(2));
+    });
     EXPECT_GT(MeteoMapping::e_vap(-45.0, false), 0.0);
     EXPECT_GT(MeteoMapping::e_vap(100.0, false), 1000.0);
     EXPECT_GT(MeteoMapping::e_vap(-65.0, true), 0.0);
@@ -81,25 +64,10 @@ TEST(Formulas, SaturationPressureHasItsRanges) {
 }
 
 TEST(Formulas, RelativeHumidityIsWholePercentUpToAHundred) {
-    const struct {
-        double temperature;
-        double dewPoint;
-        std::int64_t percent;
-        const char* why;
-    } cases[] = {
-        {20.0, 20.0, 100, "saturated"},
-        {20.0, 20.5, 100, "above saturation"},
-        {20.0, 9.27, 50, "half: 11.7 of 23.4 hPa"},
-        {30.0, -45.0, 0, "truncated"},
-        {5.0, -50.0, -9999, "over ice there is no pressure at 5 degrees"},
-        {-40.0, -50.0, 30, "over ice: 0.0394 of 0.1283 hPa"},
-        {20.0, missing, -9999, "no dew point"},
-        {missing, 10.0, -9999, "no temperature"},
-        {notANumber, 10.0, 0, "not-a-number has the integer value 0"},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(MeteoMapping::relHumForTemperature(c.temperature, c.dewPoint), c.percent)
-            << c.why;
+    forEachLine("meteo/humidity.tsv", [](const DataLine& line) {
+        EXPECT_EQ(MeteoMapping::relHumForTemperature(line.number(0), line.number(1)),
+                  line.integer(2));
+    });
 }
 
 TEST(Formulas, ComfortTemperatureChangesItsFormulaAtZeroAndThirtyOne) {

@@ -13,12 +13,13 @@
 #include "foundation/Localized.h"
 #include "foundation/PluralForm.h"
 #include "meteo/MeteoMapping.h"
+#include "support/DataLines.h"
 #include "support/ScopedEnvironment.h"
 
 namespace zephyrix {
 namespace {
 
-using testing::ScopedEnvironment;
+using namespace zephyrix::testing;
 
 /// Those of the tables in the folder; that each one is built in and chosen is checked below.
 const QStringList languages = [] {
@@ -221,45 +222,11 @@ TEST(StringTable, IsInsideTheProgramForEachLanguage) {
     }
 }
 
-struct FormCase {
-    const char* language;
-    QString shown;
-    QString text;
-};
-
 TEST(StringTable, NumbersBringTheFormOfTheirUnit) {
-    const std::vector<FormCase> cases = {
-        {"en", QStringLiteral("0"), QStringLiteral("degrees Celsius")},
-        {"en", QStringLiteral("1"), QStringLiteral("degree Celsius")},
-        {"en", QStringLiteral("2"), QStringLiteral("degrees Celsius")},
-        {"en", QStringLiteral("5"), QStringLiteral("degrees Celsius")},
-        {"en", QStringLiteral("11"), QStringLiteral("degrees Celsius")},
-        {"en", QStringLiteral("21"), QStringLiteral("degrees Celsius")},
-        {"en", QStringLiteral("-1"), QStringLiteral("degree Celsius")},
-        {"en", QStringLiteral("1.0"), QStringLiteral("degrees Celsius")},
-        {"ru", QStringLiteral("0"), QStringLiteral("градусов Цельсия")},
-        {"ru", QStringLiteral("1"), QStringLiteral("градус Цельсия")},
-        {"ru", QStringLiteral("2"), QStringLiteral("градуса Цельсия")},
-        {"ru", QStringLiteral("5"), QStringLiteral("градусов Цельсия")},
-        {"ru", QStringLiteral("11"), QStringLiteral("градусов Цельсия")},
-        {"ru", QStringLiteral("21"), QStringLiteral("градус Цельсия")},
-        {"ru", QStringLiteral("-1"), QStringLiteral("градус Цельсия")},
-        {"ru", QStringLiteral("1,0"), QStringLiteral("градуса Цельсия")},
-        {"pl", QStringLiteral("0"), QStringLiteral("stopni Celsjusza")},
-        {"pl", QStringLiteral("1"), QStringLiteral("stopień Celsjusza")},
-        {"pl", QStringLiteral("2"), QStringLiteral("stopnie Celsjusza")},
-        {"pl", QStringLiteral("5"), QStringLiteral("stopni Celsjusza")},
-        {"pl", QStringLiteral("11"), QStringLiteral("stopni Celsjusza")},
-        {"pl", QStringLiteral("21"), QStringLiteral("stopni Celsjusza")},
-        {"pl", QStringLiteral("-1"), QStringLiteral("stopień Celsjusza")},
-        {"pl", QStringLiteral("1,0"), QStringLiteral("stopnia Celsjusza")},
-        {"fr", QStringLiteral("0"), QStringLiteral("degré Celsius")},
-    };
-    for (const FormCase& row : cases) {
-        const InLanguage chosen(row.language);
-        EXPECT_EQ(localized(u"degrees Celsius", row.shown), row.text)
-            << row.language << ' ' << qPrintable(row.shown);
-    }
+    forEachLine("meteo/plural_forms.tsv", [](const DataLine& line) {
+        const InLanguage chosen(line.utf8(0).constData());
+        EXPECT_EQ(localized(u"degrees Celsius", line[1]), line[2]);
+    });
     EXPECT_EQ(localized(u"Gusts", u"1"), QStringLiteral("Gusts")) << "a text without forms";
 }
 

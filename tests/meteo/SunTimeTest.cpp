@@ -1,5 +1,4 @@
 #include <cmath>
-#include <limits>
 
 #include <gtest/gtest.h>
 
@@ -9,9 +8,12 @@
 #include "meteo/MeteoMapping.h"
 #include "model/LocationResult.h"
 #include "model/QKTimeRange.h"
+#include "support/DataLines.h"
 
 namespace zephyrix {
 namespace {
+
+using namespace zephyrix::testing;
 
 constexpr double hour = 3600.0;
 constexpr double day = 86400.0;
@@ -50,19 +52,10 @@ double countedDaylight(const QKTimeRange& range) {
 }
 
 TEST(SunTime, IsWhatCountingHalfMinutesGives) {
-    struct Case {
-        double fromHour;
-        double hours;
-        const char* why;
-    };
-    for (const Case& c : {Case{8, 3, "all in daylight"}, Case{1, 3, "before the rise"},
-                          Case{22, 1.5, "after the set"}, Case{3, 5, "over the rise"},
-                          Case{20, 3, "over the set"}, Case{1, 22, "the whole day"},
-                          Case{0, 24, "midnight to midnight"}, Case{12, 24, "noon to noon"},
-                          Case{18, 24, "evening to evening"}, Case{20, 12, "one night"}})
-        EXPECT_NEAR(daylight(range(c.fromHour, c.hours)),
-                    countedDaylight(range(c.fromHour, c.hours)), 60.0)
-            << c.why;
+    forEachLine("meteo/day_ranges.tsv", [](const DataLine& line) {
+        const QKTimeRange hours = range(line.number(0), line.number(1));
+        EXPECT_NEAR(daylight(hours), countedDaylight(hours), 60.0);
+    });
 }
 
 TEST(SunTime, NightToNightCountsTheSecondEveningToo) {
@@ -102,15 +95,10 @@ TEST(SunTime, StartAfterTheLastSetHasNone) {
 
 TEST(SunTime, CloudTakesItsEighths) {
     const double all = daylight(range(8, 4));
-    struct Case {
-        double n;
-        double share;
-    };
-    for (const Case& c :
-         {Case{-9999.0, 1.0}, Case{0.0, 1.0}, Case{1.0, 1.0}, Case{2.0, 0.75}, Case{6.9, 0.1375},
-          Case{7.0, 0.0}, Case{8.0, 0.0}, Case{std::numeric_limits<double>::quiet_NaN(), 0.0}})
-        EXPECT_DOUBLE_EQ(MeteoMapping::sunTimeForRange(range(8, 4), c.n, berlin()), c.share * all)
-            << c.n;
+    forEachLine("meteo/cloud_shares.tsv", [&](const DataLine& line) {
+        EXPECT_DOUBLE_EQ(MeteoMapping::sunTimeForRange(range(8, 4), line.number(0), berlin()),
+                         line.number(1) * all);
+    });
 }
 
 TEST(SunTime, ASetBeforeTheRiseBelongsToTheRiseOfTheDayBefore) {

@@ -1,6 +1,6 @@
 #include <cmath>
-#include <limits>
 
+#include <QHash>
 #include <gtest/gtest.h>
 
 #include "meteo/MeteoMapping.h"
@@ -9,41 +9,29 @@
 namespace zephyrix {
 namespace {
 
-using testing::dataLines;
+using namespace zephyrix::testing;
 
 constexpr double missing = MeteoMapping::missingValue;
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-
-struct UnitTextCase {
-    QString (*operation)(UnitCode);
-    UnitCode code;
-    const char* text;
-};
 
 TEST(Units, ACodeOutsideOfItsTableHasTheTextOfTheBaseUnit) {
-    const UnitTextCase cases[] = {
-        {MeteoMapping::tempUnitForUnit, 3, "°C"},
-        {MeteoMapping::tempUnitForUnit, -1, "°C"},
-        {MeteoMapping::accessibleTempUnitForUnit, 2, "Kelvin"},
-        {MeteoMapping::accessibleTempUnitForUnit, 99, "degrees Celsius"},
-        {MeteoMapping::windUnitForUnit, 4, "mph"},
-        {MeteoMapping::windUnitForUnit, 5, "kn"},
-        {MeteoMapping::windUnitForUnit, -1, "kn"},
-        {MeteoMapping::pressureUnitForUnit, 3, "hPa"},
-        {MeteoMapping::pressureUnitForUnit, std::numeric_limits<UnitCode>::min(), "hPa"},
-        {MeteoMapping::precipitationUnitForUnit, 2, "mm"},
-        {MeteoMapping::altitudeUnitForUnit, -1, "m"},
-    };
-    for (const UnitTextCase& c : cases)
-        EXPECT_EQ(c.operation(c.code), QString::fromUtf8(c.text)) << c.text << " for " << c.code;
+    const QHash<QString, QString (*)(UnitCode)> operations{
+        {QStringLiteral("temp"), MeteoMapping::tempUnitForUnit},
+        {QStringLiteral("accessibleTemp"), MeteoMapping::accessibleTempUnitForUnit},
+        {QStringLiteral("wind"), MeteoMapping::windUnitForUnit},
+        {QStringLiteral("pressure"), MeteoMapping::pressureUnitForUnit},
+        {QStringLiteral("precipitation"), MeteoMapping::precipitationUnitForUnit},
+        {QStringLiteral("altitude"), MeteoMapping::altitudeUnitForUnit}};
+    forEachLine("meteo/unit_texts.tsv", [&](const DataLine& line) {
+        ASSERT_TRUE(operations.contains(line[0]));
+        EXPECT_EQ(operations[line[0]](line.integer(1)), line[2]);
+    });
 }
 
 TEST(Units, TemperaturesGoByCelsius) {
-    for (const QStringList& line : dataLines(QStringLiteral("meteo/temperatures.txt")))
-        EXPECT_NEAR(
-            MeteoMapping::mapTemperature(line[0].toDouble(), line[1].toInt(), line[2].toInt()),
-            line[3].toDouble(), 1e-9)
-            << qPrintable(line.join(u' '));
+    forEachLine("meteo/temperatures.txt", [](const DataLine& line) {
+        EXPECT_NEAR(MeteoMapping::mapTemperature(line.number(0), line.integer(1), line.integer(2)),
+                    line.number(3), 1e-9);
+    });
     for (const auto operation : {MeteoMapping::celsiusToFahrenheit, MeteoMapping::celsiusToKelvin,
                                  MeteoMapping::fahrenheitToCelsius, MeteoMapping::kelvinToCelsius})
         EXPECT_EQ(operation(missing), missing);
@@ -93,28 +81,10 @@ TEST(Units, BeaufortClassesEndAtTheirUpperLimit) {
 }
 
 TEST(Units, BeaufortHasItsIrregularEnds) {
-    const struct {
-        double in;
-        double force;
-        double knots;
-    } cases[] = {
-        {-0.001, missing, missing},
-        {-0.0, 0, 3},
-        {0.5, 0, 3},
-        {0.999, 0, 3},
-        {1.0, 1, 3},
-        {11.0, 4, 63},
-        {11.001, 4, missing},
-        {12.0, 4, missing},
-        {12.001, 4, 63},
-        {1e300, 12, 63},
-        {missing, missing, missing},
-        {notANumber, missing, missing},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(MeteoMapping::mapKnotsToUnit(0, c.in), c.force) << c.in << " knots";
-        EXPECT_EQ(MeteoMapping::mapUnitToKnots(0, c.in), c.knots) << "force " << c.in;
-    }
+    forEachLine("meteo/beaufort.tsv", [](const DataLine& line) {
+        EXPECT_EQ(MeteoMapping::mapKnotsToUnit(0, line.number(0)), line.number(1));
+        EXPECT_EQ(MeteoMapping::mapUnitToKnots(0, line.number(0)), line.number(2));
+    });
 }
 
 }  // namespace

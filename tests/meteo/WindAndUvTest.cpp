@@ -8,12 +8,12 @@
 namespace zephyrix {
 namespace {
 
-using testing::dataLines;
+using namespace zephyrix::testing;
 
 TEST(WindAndUv, DirectionsFallIntoSixteenSectors) {
-    for (const QStringList& line : dataLines(QStringLiteral("meteo/wind_sectors.txt")))
-        EXPECT_EQ(MeteoMapping::mapWindToSector(line[0].toInt(), line[1].toInt()), line[2].toInt())
-            << qPrintable(line.join(u' '));
+    forEachLine("meteo/wind_sectors.txt", [](const DataLine& line) {
+        EXPECT_EQ(MeteoMapping::mapWindToSector(line.integer(0), line.integer(1)), line.integer(2));
+    });
     const std::int64_t far =
         MeteoMapping::mapWindToSector(std::numeric_limits<std::int64_t>::max(), 1);
     EXPECT_TRUE(far >= 0 && far < 16);
@@ -27,16 +27,9 @@ TEST(WindAndUv, SectorsOutsideOfTheListHaveNoName) {
 }
 
 TEST(WindAndUv, UvClassesEndAtTheirHighestIndex) {
-    const struct {
-        double index;
-        const char* word;
-    } cases[] = {{0, "Low"},      {2.9, "Low"},      {3, "Medium"},    {5, "Medium"},
-                 {6, "High"},     {7, "High"},       {8, "Very high"}, {9, "Very high"},
-                 {10, "Extreme"}, {15.9, "Extreme"}, {16, "-"},        {-0.9, "Low"},
-                 {-1, "-"},       {-9999, "-"}};
-    for (const auto& c : cases)
-        EXPECT_EQ(MeteoMapping::stringForUVIndex(Number(c.index)), QString::fromLatin1(c.word))
-            << c.index;
+    forEachLine("meteo/uv_words.tsv", [](const DataLine& line) {
+        EXPECT_EQ(MeteoMapping::stringForUVIndex(Number(line.number(0))), line[1]);
+    });
     EXPECT_EQ(MeteoMapping::stringForUVIndex(std::nullopt), QStringLiteral("Low"));
 }
 
