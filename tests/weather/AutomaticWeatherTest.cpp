@@ -14,9 +14,7 @@ namespace {
 
 using httplib::Request;
 using httplib::Response;
-using testing::at;
-using testing::FakeService;
-using testing::placeAt;
+using namespace zephyrix::testing;
 
 const Place berlin = placeAt(52.53, 13.38, "Europe/Berlin");
 const Place oslo = placeAt(59.91, 10.75, "Europe/Oslo");
@@ -63,7 +61,7 @@ class Services {
 
     FakeService server_;
     NetworkHttpClient http_;
-    AnswerStore store_{testing::freshFolder()};
+    AnswerStore store_{freshFolder()};
     OpenMeteo openMeteo_;
     MetNorway metNorway_;
     BrightSky brightSky_;

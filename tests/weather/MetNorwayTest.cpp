@@ -1,17 +1,15 @@
+#include <QHash>
 #include <gtest/gtest.h>
 
 #include "Telling.h"
+#include "support/DataLines.h"
 #include "weather/MetNorway.h"
 #include "weather/MetSymbolCode.h"
 
 namespace zephyrix {
 namespace {
 
-using testing::at;
-using testing::daysIn;
-using testing::observationIn;
-using testing::placeAt;
-using testing::with;
+using namespace zephyrix::testing;
 
 const MetNorway service;
 const Place oslo = placeAt(59.91, 10.75, "Europe/Oslo");
@@ -55,45 +53,24 @@ TEST(MetNorway, IsAskedWithFourDecimals) {
 
 TEST(MetNorway, TellsTheStepThatHoldsNow) {
     const QByteArray later = with(with(noonStep, "T12:00", "T13:00"), "14.8", "15.5");
-    const QByteArray series = seriesOf(noonStep + ',' + later);
-    // 5 m/s are 9.72 kn, 10.3 m/s are 20.02 kn; 62.5 % are 5 eighths; the rain is of the next hour.
-    const std::string atNoon =
-        "tt 14.8 td 12.1 dd 240 ff 9.7 ffg 20.0 rrr 0.7 next 1.00 n 5 ww 81 ppp 1006.3 "
-        "symbol 1521200";
-    struct Case {
-        const char* why;
-        QByteArray answer;
-        const char* now;
-        std::string told;
+    const auto farStep = [](const char* time, const char* hours, const char* symbol) {
+        return seriesOf(step(QLatin1String(time), 3, hours, symbol, 0));
     };
-    const std::string atOne =
-        QByteArray::fromStdString(atNoon).replace("14.8", "15.5").toStdString();
-    for (const Case& c : {
-             Case{"just begun", series, "2026-06-01T12:00:00Z", atNoon},
-             Case{"not yet over", series, "2026-06-01T12:59:59Z", atNoon},
-             Case{"the next", series, "2026-06-01T13:00:00Z", atOne},
-             Case{"a clock that is slow", series, "2026-06-01T11:50:00Z", atNoon},
-             Case{"out of order, and twice", seriesOf(later + ',' + noonStep + ',' + noonStep),
-                  "2026-06-01T12:30:00Z", atNoon},
-             Case{"held over, but too long", series, "2026-06-01T19:00:01Z",
-                  "it has no weather of now"},
-             Case{"six hours only, night",
-                  seriesOf(step(QStringLiteral("2026-06-01T00:00:00Z"), 3, "6", "fair_night", 0)),
-                  "2026-06-01T00:10:00Z",
-                  "tt 3.0 td - dd - ff - ffg - rrr 0.0 next 6.00 n 2 ww 2 ppp - symbol 2100000"},
-             Case{"a symbol from tomorrow's manual",
-                  seriesOf(step(QStringLiteral("2026-06-01T12:00:00Z"), 3, "1", "frogs", 0)),
-                  "2026-06-01T12:10:00Z",
-                  "tt 3.0 td - dd - ff - ffg - rrr 0.0 next 1.00 n - ww - ppp - symbol 0"},
-             Case{"speeds in another unit",
-                  with(series, R"("wind_speed":"m/s")", R"("wind_speed":"km/h")"),
-                  "2026-06-01T12:10:00Z",
-                  QByteArray::fromStdString(atNoon).replace("ff 9.7", "ff -").toStdString()},
-             Case{"no steps", seriesOf(""), "2026-06-01T12:00:00Z", "it has no time steps"},
-             Case{"steps without a time", seriesOf(R"({"data":{}},7,null,[])"),
-                  "2026-06-01T12:00:00Z", "it has no time steps"},
-         })
-        EXPECT_EQ(observationIn(service, c.answer, oslo, at(c.now)), c.told) << c.why;
+    const QByteArray series = seriesOf(noonStep + ',' + later);
+    const QHash<QString, QByteArray> answers{
+        {QStringLiteral("noon and one"), series},
+        {QStringLiteral("one, noon and noon"), seriesOf(later + ',' + noonStep + ',' + noonStep)},
+        {QStringLiteral("six hours of midnight"),
+         farStep("2026-06-01T00:00:00Z", "6", "fair_night")},
+        {QStringLiteral("frogs at noon"), farStep("2026-06-01T12:00:00Z", "1", "frogs")},
+        {QStringLiteral("km/h"), with(series, R"("wind_speed":"m/s")", R"("wind_speed":"km/h")")},
+        {QStringLiteral("none"), seriesOf("")},
+        {QStringLiteral("nonsense"), seriesOf(R"({"data":{}},7,null,[])")}};
+    forEachLine("weather/met_norway_steps.tsv", [&](const DataLine& line) {
+        ASSERT_TRUE(answers.contains(line[0]));
+        EXPECT_EQ(observationIn(service, answers[line[0]], oslo, at(line.utf8(1))),
+                  line[2].toStdString());
+    });
     // What it reads changes with the hour, without a new answer.
     EXPECT_EQ(service.read(series, oslo, at("2026-06-01T12:10:00Z")).validUntil,
               at("2026-06-01T13:00:00Z"));
@@ -111,38 +88,10 @@ TEST(MetNorway, GathersStepsIntoThePlacesOwnDays) {
         }
         return seriesOf(steps.join(','));
     };
-    struct Case {
-        const char* why;
-        Place place;
-        const char* begin;
-        const char* now;
-        const char* told;
-    };
-    for (const Case& c : {
-             // Local days are hours 0 to 21, 22 to 45; of the third the series has no afternoon.
-             Case{"+2: the day ends at 22 UTC", oslo, "2026-06-01T00:00:00Z",
-                  "2026-06-01T00:10:00Z",
-                  "2026-06-01 1100000 21.0 0.0; 2026-06-02 620300 45.0 22.0"},
-             Case{"later the same day only its rest counts", oslo, "2026-06-01T00:00:00Z",
-                  "2026-06-01T20:10:00Z",
-                  "2026-06-01 1100000 21.0 20.0; 2026-06-02 620300 45.0 22.0"},
-             Case{"23 hours: the clock goes forward", oslo, "2026-03-28T23:00:00Z",
-                  "2026-03-28T23:10:00Z",
-                  "2026-03-29 1100000 22.0 0.0; 2026-03-30 620300 46.0 23.0"},
-             Case{"25 hours: and back", oslo, "2026-10-24T22:00:00Z", "2026-10-24T22:10:00Z",
-                  "2026-10-25 1100000 24.0 0.0; 2026-10-26 620300 48.0 25.0"},
-             Case{"at the date line, +14", placeAt(1.87, -157.43, "Pacific/Kiritimati"),
-                  "2026-06-01T10:00:00Z", "2026-06-01T10:10:00Z",
-                  "2026-06-02 1100000 23.0 0.0; 2026-06-03 620300 47.0 24.0"},
-             Case{"and beyond, -11", placeAt(-14.28, -170.7, "Pacific/Pago_Pago"),
-                  "2026-06-01T10:00:00Z", "2026-06-01T10:10:00Z",
-                  "2026-05-31 1100000 0.0 0.0; 2026-06-01 1100000 24.0 1.0; "
-                  "2026-06-02 620300 48.0 25.0"},
-             Case{"polar night", placeAt(78.2, 15.6, "Arctic/Longyearbyen"), "2026-12-20T23:00:00Z",
-                  "2026-12-20T23:10:00Z",
-                  "2026-12-21 2100000 23.0 0.0; 2026-12-22 620300 47.0 24.0"},
-         })
-        EXPECT_EQ(daysIn(service, series(c.begin), c.place, at(c.now)), c.told) << c.why;
+    forEachLine("weather/met_norway_days.tsv", [&](const DataLine& line) {
+        EXPECT_EQ(daysIn(service, series(line.utf8(1)), placeIn(line[0]), at(line.utf8(2))),
+                  line[3].toStdString());
+    });
     // What the six hours say about the extremes counts too.
     const QByteArray far = with(noonStep, "next_1_hours", "next_12_hours");
     EXPECT_EQ(daysIn(service, seriesOf(far), oslo, at("2026-06-01T12:10:00Z")),

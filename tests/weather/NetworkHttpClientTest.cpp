@@ -12,7 +12,7 @@ namespace {
 
 using httplib::Request;
 using httplib::Response;
-using testing::FakeService;
+using namespace zephyrix::testing;
 using namespace std::chrono_literals;
 
 constexpr HttpLimits tight{.total = 500ms, .bytes = 100'000, .redirects = 3};

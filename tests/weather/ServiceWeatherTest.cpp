@@ -7,6 +7,7 @@
 
 #include "FakeService.h"
 #include "Telling.h"
+#include "support/DataLines.h"
 #include "support/TestHome.h"
 #include "weather/HttpDate.h"
 #include "weather/NetworkHttpClient.h"
@@ -18,9 +19,7 @@ namespace {
 
 using httplib::Request;
 using httplib::Response;
-using testing::at;
-using testing::FakeService;
-using testing::placeAt;
+using namespace zephyrix::testing;
 
 const OpenMeteo openMeteo;
 const Place berlin = placeAt(52.53, 13.38, "Europe/Berlin");
@@ -51,98 +50,33 @@ class Client {
 
     FakeService server;
     NetworkHttpClient http;
-    QString folder = testing::freshFolder() + QStringLiteral("/answers");
+    QString folder = freshFolder() + QStringLiteral("/answers");
     AnswerStore store{folder};
 };
 
+void answerAsIn(const DataLine& line, Response& response) {
+    response.status = static_cast<int>(line.integer(0));
+    for (const QString& header : line[1].split(QStringLiteral("; "), Qt::SkipEmptyParts))
+        response.set_header(header.section(QStringLiteral(": "), 0, 0).toStdString(),
+                            header.section(QStringLiteral(": "), 1).toStdString());
+    response.set_content(line[2] == u"good"   ? weatherOf(start)
+                         : line[2] == u"deep" ? std::string(100'000, '[')
+                                              : line[2].toStdString(),
+                         "application/json");
+}
+
 TEST(ServiceWeather, AsksAgainWhenTheAnswerAllowsIt) {
-    struct Case {
-        const char* why;
-        int status;
-        std::vector<std::pair<const char*, const char*>> headers;
-        std::string body;
-        double pause;        // seconds until it asks for that place again
-        bool asksForOthers;  // meanwhile
-        bool knows;          // whether there is weather
-    };
-    const std::string good = weatherOf(start);
-    const char* const date = "Mon, 01 Jun 2026 11:00:00 GMT";  // the service's clock is slow
-    for (const Case& c : {
-             Case{"ten minutes at least", 200, {}, good, 600, true, true},
-             Case{"no longer than that",
-                  200,
-                  {{"Cache-Control", "public, max-age=60"}},
-                  good,
-                  600,
-                  true,
-                  true},
-             Case{"as long as it says",
-                  200,
-                  {{"Cache-Control", "public, max-age=900"}},
-                  good,
-                  900,
-                  true,
-                  true},
-             Case{"until Expires, by its own clock",
-                  200,
-                  {{"Date", date}, {"Expires", "Mon, 01 Jun 2026 11:31:00 GMT"}},
-                  good,
-                  1860,
-                  true,
-                  true},
-             Case{"no clock of its own",
-                  200,
-                  {{"Expires", "Mon, 01 Jun 2026 12:31:00 GMT"}},
-                  good,
-                  1860,
-                  true,
-                  true},
-             Case{"nonsense",
-                  200,
-                  {{"Expires", "-1"}, {"Cache-Control", "max-age=-5,max-age=nan"}},
-                  good,
-                  600,
-                  true,
-                  true},
-             Case{"deprecated", 203, {}, good, 600, true, true},
-             Case{"unchanged, but since what?", 304, {}, "", 10, false, false},
-             Case{"a place it does not like",
-                  400,
-                  {},
-                  R"({"error":true,"reason":"no"})",
-                  10,
-                  true,
-                  false},
-             Case{"forbidden", 403, {}, "", 3600, false, false},
-             Case{"too many", 429, {{"Retry-After", "7200"}}, "", 7200, false, false},
-             Case{"too many, and in a hurry", 429, {{"Retry-After", "5"}}, "", 3600, false, false},
-             Case{"too many, until a date",
-                  429,
-                  {{"Retry-After", "Mon, 01 Jun 2026 14:00:00 GMT"}},
-                  "",
-                  7200,
-                  false,
-                  false},
-             Case{"nothing there", 404, {}, "", 21600, true, false},
-             Case{"broken", 500, {}, good, 10, false, false},
-             Case{"no answer", 204, {}, "", 10, false, false},
-             Case{"no JSON", 200, {}, "<html>", 10, true, false},
-             Case{"deep", 200, {}, std::string(100'000, '['), 10, true, false},
-             Case{"of no use", 200, {}, R"({"current":{"time":1}})", 10, true, false},
-         }) {
+    forEachLine("weather/answers.tsv", [](const DataLine& line) {
         Client client;
-        client.server.answerWith([&](const Request&, Response& response) {
-            response.status = c.status;
-            for (const auto& [name, value] : c.headers)
-                response.set_header(name, value);
-            response.set_content(c.body, "application/json");
-        });
+        client.server.answerWith(
+            [&](const Request&, Response& response) { answerAsIn(line, response); });
         const ServiceWeather weather = client.weather();
-        EXPECT_EQ(weather.weatherAt(berlin, start).has_value(), c.knows) << c.why;
-        EXPECT_FALSE(client.asks(weather, berlin, start.addingSeconds(c.pause - 1))) << c.why;
-        EXPECT_EQ(client.asks(weather, potsdam, start.addingSeconds(1)), c.asksForOthers) << c.why;
-        EXPECT_TRUE(client.asks(weather, berlin, start.addingSeconds(c.pause))) << c.why;
-    }
+        const double pause = line.number(3);
+        EXPECT_EQ(weather.weatherAt(berlin, start).has_value(), line.isYes(5));
+        EXPECT_FALSE(client.asks(weather, berlin, start.addingSeconds(pause - 1)));
+        EXPECT_EQ(client.asks(weather, potsdam, start.addingSeconds(1)), line.isYes(4));
+        EXPECT_TRUE(client.asks(weather, berlin, start.addingSeconds(pause)));
+    });
 }
 
 TEST(ServiceWeather, AsksWhetherItHasChangedAndKeepsWhatHasNot) {

@@ -20,9 +20,7 @@ namespace {
 
 using httplib::Request;
 using httplib::Response;
-using testing::at;
-using testing::FakeService;
-using testing::placeAt;
+using namespace zephyrix::testing;
 
 constexpr double halfHour = 1800.0;
 constexpr double day = 86400.0;
@@ -92,7 +90,7 @@ TEST(SimulatedDay, ManyBridgesKeepTheTermsAndDoNotComeTogether) {
     std::vector<std::unique_ptr<AnswerStore>> stores;
     std::vector<std::unique_ptr<ServiceWeather>> weathers;
     for (unsigned i = 0; i < bridges; ++i) {
-        stores.push_back(std::make_unique<AnswerStore>(testing::freshFolder()));
+        stores.push_back(std::make_unique<AnswerStore>(freshFolder()));
         weathers.push_back(std::make_unique<ServiceWeather>(
             metNorway, service.server.address(),
             ServiceWeather::Surroundings{http, *stores.back(),

@@ -14,6 +14,12 @@ inline Place placeAt(double latitude, double longitude, const char* zone) {
     return {1, latitude, longitude, timeZoneWithName(QString::fromLatin1(zone))};
 }
 
+/// "52.53 13.38 Europe/Berlin".
+inline Place placeIn(const QString& words) {
+    const QStringList parts = words.split(QLatin1Char(' '));
+    return placeAt(parts.at(0).toDouble(), parts.at(1).toDouble(), parts.at(2).toLatin1());
+}
+
 inline Instant at(const char* utc) {
     return Instant::fromDateTime(QDateTime::fromString(QString::fromLatin1(utc), Qt::ISODate));
 }
