@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "app/FeedState.h"
+#include "support/DataLines.h"
 
 namespace zephyrix {
 namespace {
@@ -21,27 +22,11 @@ QVariantMap document(const QVariant& source = {}, const QVariantMap& obs = {}) {
 }
 
 TEST(FeedState, TellsHowOldTheWeatherIs) {
-    struct Case {
-        double seconds;
-        const char* state;
-    };
-    const std::array cases{
-        Case{-3600, "Updated just now."},  // the clock was set back
-        Case{119, "Updated just now."},
-        Case{120, "Updated 2 min ago."},
-        Case{1199, "Updated 19 min ago."},
-        Case{1200, "Updated 20 min ago. The panel was closed since, or"},
-        Case{7199, "Updated 119 min ago. The panel"},
-        Case{7200, "Updated 2 h ago. The panel"},
-        Case{172799, "Updated 47 h ago. The panel"},
-        Case{172800, "Updated 2 days ago. The panel"},
-    };
-    for (const Case& aCase : cases) {
-        const auto now = Instant::fromSecondsSince1970(fetchedAt + aCase.seconds);
-        const FeedState state = feedState(document(), Number(7), now);
-        EXPECT_TRUE(state.state.startsWith(QLatin1String(aCase.state)))
-            << aCase.seconds << ": " << state.state.toStdString();
-    }
+    testing::forEachLine("app/ages.tsv", [](const testing::DataLine& line) {
+        const auto now = Instant::fromSecondsSince1970(fetchedAt + line.number(0));
+        const QString state = feedState(document(), Number(7), now).state;
+        EXPECT_TRUE(state.startsWith(line[1])) << state.toStdString();
+    });
 }
 
 TEST(FeedState, WithoutADocumentOfThePlaceThereIsNoWeather) {

@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -20,7 +19,9 @@
 #include "foundation/UserLocale.h"
 #include "model/LocationResult.h"
 #include "support/Contrast.h"
+#include "support/Files.h"
 #include "support/LoopbackServer.h"
+#include "support/Programs.h"
 #include "support/TestHome.h"
 
 namespace zephyrix {
@@ -30,9 +31,9 @@ using namespace zephyrix::testing;
 
 class SettingsWindowTest : public ::testing::Test {
   protected:
-    SettingsWindowTest() : folder_(freshFolder()) { qputenv("XDG_CONFIG_HOME", folder_.toUtf8()); }
-    static void runZephyrix(const QStringList& arguments) {
-        ASSERT_EQ(QProcess::execute(QStringLiteral(PROGRAM_DIR "/zephyrix"), arguments), 0);
+    SettingsWindowTest() { qputenv("XDG_CONFIG_HOME", folder_.toUtf8()); }
+    static void runZephyrix(const char* line) {
+        ASSERT_EQ(runOurs(QLatin1String("zephyrix ") + QLatin1String(line)).exitCode, 0);
     }
     template <typename Widget>
     static Widget* named(const SettingsWindow& window, const char* name) {
@@ -52,7 +53,7 @@ class SettingsWindowTest : public ::testing::Test {
         return UserDefaults::suite(QLatin1String(suite))->object(QLatin1String(key));
     }
 
-    QString folder_;
+    QString folder_ = freshFolder();
 };
 
 TEST_F(SettingsWindowTest, APlaceIsFoundAndSetByKeyboardAlone) {
@@ -142,9 +143,7 @@ TEST_F(SettingsWindowTest, ThePanelAtLoginIsAnEntryThatDesktopsRead) {
     auto* const login = named<QCheckBox>(window, "login");
     EXPECT_FALSE(login->isChecked());
     login->click();
-    QFile file(entry);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray text = file.readAll();
+    const QByteArray text = contentOf(entry);
     EXPECT_TRUE(text.startsWith("[Desktop Entry]\n"));
     EXPECT_TRUE(text.contains("/zephyrix-panel\"\n")) << text.toStdString();
     const QString validator =
@@ -157,7 +156,7 @@ TEST_F(SettingsWindowTest, ThePanelAtLoginIsAnEntryThatDesktopsRead) {
 }
 
 TEST_F(SettingsWindowTest, EveryControlHasANameForAScreenReader) {
-    runZephyrix({QStringLiteral("place"), QStringLiteral("default")});
+    runZephyrix("place default");
     SettingsWindow window;
     window.show();
     int controls = 0;
@@ -236,9 +235,9 @@ TEST_F(SettingsWindowTest, ScrollingPastAUnitLeavesIt) {
 TEST_F(SettingsWindowTest, ShowsWhatAnotherProgramStores) {
     const SettingsWindow window;
     EXPECT_TRUE(says(window, "No place is chosen"));
-    runZephyrix({QStringLiteral("place"), QStringLiteral("default")});
+    runZephyrix("place default");
     EXPECT_TRUE(says(window, "Berlin"));
-    runZephyrix({QStringLiteral("units"), QStringLiteral("pressure"), QStringLiteral("inHg")});
+    runZephyrix("units pressure inHg");
     EXPECT_TRUE(
         waitUntil([&] { return named<QComboBox>(window, "pressure")->currentText() == u"inHg"; }));
     EXPECT_TRUE(says(window, "No weather of this place yet"));

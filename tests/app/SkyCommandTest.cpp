@@ -7,11 +7,13 @@
 #include "app/CommandLine.h"
 #include "foundation/Clock.h"
 #include "foundation/UserDefaults.h"
+#include "support/DataLines.h"
 #include "support/TestHome.h"
 
 namespace zephyrix {
 namespace {
 
+using namespace zephyrix::testing;
 using ::testing::HasSubstr;
 
 struct Answer {
@@ -40,7 +42,7 @@ double secondsOf(const QJsonValue& isoTime) {
 
 class SkyCommand : public ::testing::Test {
   protected:
-    SkyCommand() { qputenv("XDG_CONFIG_HOME", testing::freshFolder().toUtf8()); }
+    SkyCommand() { qputenv("XDG_CONFIG_HOME", freshFolder().toUtf8()); }
 };
 
 TEST_F(SkyCommand, ShowsAnAlmanacsDay) {
@@ -56,24 +58,15 @@ TEST_F(SkyCommand, ShowsAnAlmanacsDay) {
 }
 
 TEST_F(SkyCommand, NamesTheMoonOfKnownDays) {
-    struct Case {
-        const char* date;
-        const char* name;
-        int image;
-    };
-    for (const Case& c :
-         {Case{"2017-08-21", "new moon", 1}, Case{"2017-08-25", "waxing crescent", 2},
-          Case{"2017-08-29", "first quarter", 3}, Case{"2018-07-27", "full moon", 5},
-          Case{"2017-09-10", "waning gibbous", 6}, Case{"2017-09-13", "last quarter", 7},
-          Case{"2017-09-17", "waning crescent", 8}}) {
-        const QString date = QString::fromLatin1(c.date);
-        const QJsonObject moon = sky(QStringLiteral("--json --date %1 --place 51,0,UTC").arg(date))
-                                     .json()
-                                     .value(QStringLiteral("moon"))
-                                     .toObject();
-        EXPECT_EQ(moon.value(QStringLiteral("name")), QString::fromLatin1(c.name)) << c.date;
-        EXPECT_EQ(moon.value(QStringLiteral("image")), c.image) << c.date;
-    }
+    forEachLine("app/moon_names.tsv", [](const DataLine& line) {
+        const QJsonObject moon =
+            sky(QStringLiteral("--json --date %1 --place 51,0,UTC").arg(line[0]))
+                .json()
+                .value(QStringLiteral("moon"))
+                .toObject();
+        EXPECT_EQ(moon.value(QStringLiteral("name")), line[1]);
+        EXPECT_EQ(moon.value(QStringLiteral("image")), line.integer(2));
+    });
 }
 
 TEST_F(SkyCommand, SaysPolarDayAndNightInWords) {

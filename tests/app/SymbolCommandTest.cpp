@@ -1,43 +1,40 @@
 // The real program, drawing with the real symbol sets.
 #include <QDir>
 #include <QImage>
-#include <QProcess>
 #include <gtest/gtest.h>
 
+#include "support/DataLines.h"
+#include "support/Programs.h"
 #include "support/TestHome.h"
 
 namespace zephyrix {
 namespace {
 
+using namespace zephyrix::testing;
+
 class SymbolCommand : public ::testing::Test {
   protected:
-    SymbolCommand() : folder_(testing::freshFolder()) {
+    SymbolCommand() {
         qputenv("XDG_CONFIG_HOME", (folder_ + "/config").toUtf8());
         qputenv("XDG_CACHE_HOME", (folder_ + "/cache").toUtf8());
     }
 
     /// Runs "zephyrix symbol" with these words and FILE for the picture's path.
-    int run(const QString& words) {
-        QProcess process;
-        process.start(
-            QStringLiteral(PROGRAM_DIR "/zephyrix"),
-            QProcess::splitCommand(QStringLiteral("symbol ") +
-                                   QString(words).replace(QLatin1String("FILE"), file())));
-        EXPECT_TRUE(process.waitForFinished());
-        errors_ = process.readAllStandardError();
-        return process.exitCode();
+    [[nodiscard]] Outcome run(QString words) const {
+        return runOurs(QStringLiteral("zephyrix symbol ") +
+                       words.replace(QLatin1String("FILE"), file()));
     }
 
-    QImage drawn(const QString& words) {
+    [[nodiscard]] QImage drawn(const QString& words) const {
         QFile::remove(file());
-        EXPECT_EQ(run(words), 0) << errors_.toStdString();
+        const Outcome outcome = run(words);
+        EXPECT_EQ(outcome.exitCode, 0) << outcome.err.toStdString();
         return QImage(file());
     }
 
     [[nodiscard]] QString file() const { return folder_ + QStringLiteral("/picture.png"); }
 
-    QString folder_;
-    QByteArray errors_;
+    QString folder_ = freshFolder();
 };
 
 TEST_F(SymbolCommand, DrawsACodeInPixelsOfItsScaleAndLeavesNoTraces) {
@@ -75,34 +72,12 @@ TEST_F(SymbolCommand, TheSheetShowsEachCodeOnBothGrounds) {
 }
 
 TEST_F(SymbolCommand, RefusesWhatItCannotDrawAndWritesNothing) {
-    constexpr int failure = 1;
-    constexpr int usage = 2;
-    const struct {
-        const char* words;
-        int exitCode;
-    } cases[] = {
-        {"", usage},
-        {"1000000", usage},
-        {"-o FILE", usage},
-        {"sunny -o FILE", usage},
-        {"-- -1 -o FILE", usage},
-        {"1000000 2000000 -o FILE", usage},
-        {"1000000 -o FILE --sheet FILE", usage},
-        {"1000000 --sheet FILE", usage},
-        {"1000000 -o FILE --size 0", usage},
-        {"1000000 -o FILE --size nan", usage},
-        {"1000000 -o FILE --size 0.1", usage},
-        {"1000000 -o FILE --scale 99", usage},
-        {"1000000 -o FILE --date yesterday", usage},
-        {"--sheet FILE --size 1000", usage},
-        {"1000000 -o FILE --set 77", failure},
-        {"1000000 -o FILE/below", failure},
-    };
-    for (const auto& each : cases) {
-        EXPECT_EQ(run(QString::fromLatin1(each.words)), each.exitCode) << each.words;
-        EXPECT_TRUE(errors_.startsWith("zephyrix: ")) << errors_.toStdString();
-        EXPECT_FALSE(QFile::exists(file())) << each.words;
-    }
+    forEachLine("app/bad_symbols.tsv", [this](const DataLine& line) {
+        const Outcome refused = run(line[1]);
+        EXPECT_EQ(refused.exitCode, line.integer(0));
+        EXPECT_TRUE(refused.err.startsWith("zephyrix: ")) << refused.err.toStdString();
+        EXPECT_FALSE(QFile::exists(file()));
+    });
 }
 
 }  // namespace
