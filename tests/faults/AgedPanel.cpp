@@ -40,12 +40,12 @@ QVariant AgedPanel::document() const {
     return panel_.setting(documentKey);
 }
 
-PanelProgram::Result AgedPanel::report() {
+Outcome AgedPanel::report() {
     return reportFrom(server_.baseAddress());
 }
 
-PanelProgram::Result AgedPanel::reportFrom(const QString& feed) {
-    return panel_.run({QStringLiteral("--text"), QStringLiteral("--feed"), feed});
+Outcome AgedPanel::reportFrom(const QString& feed) {
+    return panel_.run(QStringLiteral("--text --feed ") + feed);
 }
 
 QList<QByteArray> AgedPanel::troubles(const QByteArray& log) {

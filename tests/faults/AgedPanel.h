@@ -22,8 +22,8 @@ class AgedPanel : public ::testing::Test {
     [[nodiscard]] QVariant document() const;
 
     /// Runs `zephyrix-panel --text --feed` with the server's address, or with another one.
-    PanelProgram::Result report();
-    PanelProgram::Result reportFrom(const QString& feed);
+    Outcome report();
+    Outcome reportFrom(const QString& feed);
 
     /// The lines of a log that tell of something else than an ordinary fetch.
     [[nodiscard]] static QList<QByteArray> troubles(const QByteArray& log);

@@ -34,7 +34,7 @@ void resetPeakMemory() {
 class ServerFaults : public AgedPanel {
   protected:
     /// The panel shows the document that it had, keeps it, and says in one line why.
-    void expectKept(const QVariant& before, const PanelProgram::Result& result, const char* what,
+    void expectKept(const QVariant& before, const Outcome& result, const char* what,
                     const char* told) {
         SCOPED_TRACE(what);
         EXPECT_EQ(result.exitCode, 0);

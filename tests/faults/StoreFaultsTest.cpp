@@ -13,6 +13,7 @@
 
 #include "AgedPanel.h"
 #include "foundation/PropertyList.h"
+#include "support/Files.h"
 
 namespace zephyrix {
 namespace {
@@ -28,10 +29,6 @@ class StoreFaults : public AgedPanel {
     }
     [[nodiscard]] QString storeFile() const {
         return settingsFolder() + QStringLiteral("/zephyrix-panel.plist");
-    }
-    static QByteArray contentOf(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
     /// Starts a report and kills it after that time (microseconds). Nothing when it was killed,
     /// else the time after which it had ended by itself.

@@ -11,6 +11,7 @@
 
 #include "AgedPanel.h"
 #include "host/XDisplay.h"
+#include "support/Files.h"
 #include "support/ScopedEnvironment.h"
 #include "support/TestHome.h"
 
@@ -41,15 +42,6 @@ class Surroundings : public AgedPanel {
         panel_.runAs({program});
         return root + QStringLiteral("/share/zephyrix");
     }
-    static void write(const QString& path, const QByteArray& bytes) {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-    static QByteArray shippedDatabase() {
-        QFile file(QStringLiteral(PROGRAM_DIR "/../share/zephyrix/meteoDB.sqlite"));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
 };
 
 struct Database {
@@ -61,7 +53,9 @@ struct Database {
 TEST_F(Surroundings, WithoutItsDataThePanelShowsAllButTheWords) {
     EXPECT_THAT(report().out.toStdString(), HasSubstr("ain")) << "rain, in words";
     const QString data = copyProgram();
-    const QByteArray shipped = shippedDatabase();
+    const QByteArray shipped =
+        contentOf(QStringLiteral(PROGRAM_DIR "/../share/zephyrix/meteoDB.sqlite"));
+    ASSERT_GT(shipped.size(), 10000);
     for (const Database& row : {
              Database{"missing", {}, "no such table"},
              Database{"empty", "", "no such table"},
@@ -71,7 +65,7 @@ TEST_F(Surroundings, WithoutItsDataThePanelShowsAllButTheWords) {
          }) {
         SCOPED_TRACE(row.what);
         if (!row.bytes.isNull())
-            write(data + QStringLiteral("/meteoDB.sqlite"), row.bytes);
+            overwrite(data + QStringLiteral("/meteoDB.sqlite"), row.bytes);
         panel_.setSetting(QStringLiteral("symbolSet"), 1);  // its images are not there either
         const auto result = report();
         EXPECT_EQ(result.exitCode, 0);
@@ -96,13 +90,14 @@ TEST_F(Surroundings, WithoutItsNetworkItKeepsTheLastWeather) {
 
 TEST_F(Surroundings, WithoutFontsItTellsAndGoesOn) {
     const QString folder = freshFolder();
-    write(folder + QStringLiteral("/fonts.conf"), "<?xml version='1.0'?><fontconfig><cachedir>" +
-                                                      folder.toUtf8() + "</cachedir></fontconfig>");
+    overwrite(folder + QStringLiteral("/fonts.conf"),
+              "<?xml version='1.0'?><fontconfig><cachedir>" + folder.toUtf8() +
+                  "</cachedir></fontconfig>");
     const QByteArray file = (folder + QStringLiteral("/fonts.conf")).toUtf8();
     const ScopedEnvironment none{{"FONTCONFIG_FILE", file.constData()}};
     const QString picture = folder + QStringLiteral("/panel.png");
-    const auto result = panel_.run({QStringLiteral("--text"), QStringLiteral("--snapshot"), picture,
-                                    QStringLiteral("--feed"), server_.baseAddress()});
+    const auto result = panel_.run(
+        QStringLiteral("--text --snapshot %1 --feed %2").arg(picture, server_.baseAddress()));
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_THAT(result.out.toStdString(), HasSubstr("21°C"));
     EXPECT_FALSE(QImage(picture).isNull());
@@ -160,8 +155,7 @@ TEST_F(Surroundings, PlainHttpOfAnotherMachineIsNotAskedFor) {
     EXPECT_THAT(result.err.toStdString(), HasSubstr("http://0.0.0.0:1/ is not asked"));
     EXPECT_EQ(document(), before);
     const auto unencrypted =
-        panel_.run({QStringLiteral("--text"), QStringLiteral("--allow-plain-http"),
-                    QStringLiteral("--feed"), QStringLiteral("http://0.0.0.0:1/")});
+        panel_.run(QStringLiteral("--text --allow-plain-http --feed http://0.0.0.0:1/"));
     EXPECT_THAT(unencrypted.err.toStdString(), HasSubstr("Transport error 1"));
 }
 

@@ -13,6 +13,7 @@
 #include "cells/Registration.h"
 #include "foundation/Clock.h"
 #include "host/AppearanceSchedule.h"
+#include "support/DataLines.h"
 #include "support/Documents.h"
 #include "support/LoopbackServer.h"
 #include "support/ScopedEnvironment.h"
@@ -182,35 +183,20 @@ TEST_F(AppearanceScheduleTest, TriesSoonAfterTheNetworkHasComeBack) {
     EXPECT_NEAR(secondsToNext(), 1.0 * minute, 0.01);
 }
 
-struct Midnight {
-    const char* zone;
-    double now;       // seconds since 1970
-    double midnight;  // seconds since 1970, by another program's calendar
-    const char* why;
-};
-
-constexpr std::array midnights{
-    Midnight{"Europe/Berlin", 1427583601, 1427666400, "a day of 23 hours"},
-    Midnight{"Europe/Berlin", 1445724001, 1445814000, "a day of 25 hours"},
-    Midnight{"America/Sao_Paulo", 1445094000, 1445137200, "a day that begins at 01:00"},
-    Midnight{"America/Havana", 1446352200, 1446440400, "00:30 comes twice"},
-    Midnight{"Asia/Kathmandu", 1433139300, 1433182500, "a quarter of an hour in the offset"},
-};
-
 TEST_F(AppearanceScheduleTest, AtMidnightTheForecastBeginsWithTheNewDayWithoutAFetch) {
     choosePlace();
-    for (const Midnight& row : midnights) {
-        SCOPED_TRACE(row.why);
-        const ScopedEnvironment zone{{"TZ", row.zone}};
-        now_ = Instant::fromSecondsSince1970(row.now);
+    forEachLine("host/midnights.tsv", [this](const DataLine& line) {
+        const QByteArray name = line.utf8(0);
+        const ScopedEnvironment zone{{"TZ", name.constData()}};
+        now_ = Instant::fromSecondsSince1970(line.number(1));
         // The clock runs behind the document, so that nothing else is ever due.
         store(now_.addingSeconds(3 * day), now_.addingSeconds(3 * day));
         restart();
-        EXPECT_NEAR(wakes_->moment()->secondsSince1970(), row.midnight, 0.01);
+        EXPECT_NEAR(wakes_->moment()->secondsSince1970(), line.number(2), 0.01);
         wait(secondsToNext());
         EXPECT_EQ(wakeUps_, 1);
         EXPECT_NEAR(secondsToNext(), day, 2 * hour);
-    }
+    });
 
     now_ = Instant::fromSecondsSince1970(1433195970);  // 2015-06-01 23:59:30
     store(now_, now_);

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include <QDir>
-#include <QFile>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -12,6 +11,7 @@
 #include "XDisplay.h"
 #include "foundation/Clock.h"
 #include "support/Documents.h"
+#include "support/Files.h"
 #include "support/LoopbackServer.h"
 #include "support/ScopedEnvironment.h"
 
@@ -61,9 +61,7 @@ class DesktopTest : public ::testing::Test {
         EXPECT_EQ(process_.exitCode(), 0);
     }
     static void runZephyrix(const char* line) {
-        EXPECT_EQ(QProcess::execute(QStringLiteral(PROGRAM_DIR "/zephyrix"),
-                                    QString::fromUtf8(line).split(QLatin1Char(' '))),
-                  0);
+        EXPECT_EQ(runOurs(QLatin1String("zephyrix ") + QLatin1String(line)).exitCode, 0);
     }
 
     [[nodiscard]] bool logSays(const QByteArray& words) {
@@ -174,34 +172,25 @@ TEST_F(DesktopTest, RowOpensItsAddress) {
     EXPECT_TRUE(logSays("no program opens zephyrix://widget"));
 
     QDir().mkpath(folder);
-    QFile handler(folder + QStringLiteral("/stand-in.desktop"));
-    ASSERT_TRUE(handler.open(QIODevice::WriteOnly));
-    handler.write("[Desktop Entry]\nType=Application\nName=Stand-in\nExec=" SOURCE_DIR
-                  "/tests/host/stand-in " +
+    overwrite(folder + QStringLiteral("/stand-in.desktop"),
+              "[Desktop Entry]\nType=Application\nName=Stand-in\nExec=" SOURCE_DIR
+              "/tests/host/stand-in " +
                   opened.toUtf8() + " %u\nMimeType=x-scheme-handler/zephyrix;\n");
-    handler.close();
-    QFile defaults(folder + QStringLiteral("/mimeapps.list"));
-    ASSERT_TRUE(defaults.open(QIODevice::WriteOnly));
-    defaults.write("[Default Applications]\nx-scheme-handler/zephyrix=stand-in.desktop\n");
-    defaults.close();
+    overwrite(folder + QStringLiteral("/mimeapps.list"),
+              "[Default Applications]\nx-scheme-handler/zephyrix=stand-in.desktop\n");
     display().press(window, Key::Return);
-    QByteArray address;
-    EXPECT_TRUE(waitUntil([&] {
-        QFile file(opened);
-        address = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        return address.endsWith('\n');
-    }));
-    EXPECT_EQ(address, "zephyrix://widget\n");
+    EXPECT_TRUE(waitUntil([&] { return contentOf(opened).endsWith('\n'); }));
+    EXPECT_EQ(contentOf(opened), "zephyrix://widget\n");
 }
 
 TEST_F(DesktopTest, SecondStartShowsTheFirstAndReportsGoOn) {
     startWithFeed({});
     windowWithSource("a test");
     EXPECT_THAT(log_.toLower().toStdString(), Not(HasSubstr("bus"))) << "none is no trouble";
-    const auto second = panel_.run({});
+    const auto second = panel_.run(QString());
     EXPECT_EQ(second.exitCode, 0);
     EXPECT_EQ(second.err, QByteArray()) << "it has shown nothing itself";
-    EXPECT_THAT(panel_.run({QStringLiteral("--text")}).out.toStdString(), HasSubstr("21"));
+    EXPECT_THAT(panel_.run(QStringLiteral("--text")).out.toStdString(), HasSubstr("21"));
 
     process_.kill();
     EXPECT_TRUE(waitUntil([this] { return process_.state() == QProcess::NotRunning; }));
@@ -239,7 +228,7 @@ TEST_F(DesktopTest, PanelLivesInTheTrayWhileThereIsOne) {
     bus.clickItem();
     display().press(windowWhen(isPopup), Key::Escape);
     ASSERT_TRUE(nothingIsShown());
-    EXPECT_EQ(panel_.run({}).exitCode, 0);
+    EXPECT_EQ(panel_.run(QString()).exitCode, 0);
     const auto popup = windowWhen(isPopup);
     EXPECT_TRUE(QRect(0, 0, 1024, 768).contains(popup.area));
     display().click(popup, QPoint(-50, 5));

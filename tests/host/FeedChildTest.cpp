@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "host/FeedChild.h"
+#include "support/Files.h"
 #include "support/LoopbackServer.h"
 #include "support/ScopedEnvironment.h"
 #include "support/TestHome.h"
@@ -27,11 +28,10 @@ QString addressFrom(FeedChild& feed) {
 }
 
 QString script(const QByteArray& commands) {
-    QFile file(freshFolder() + QStringLiteral("/feed"));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("#!/bin/sh\n" + commands);
-    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    return file.fileName();
+    const QString path = freshFolder() + QStringLiteral("/feed");
+    overwrite(path, "#!/bin/sh\n" + commands);
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return path;
 }
 
 /// A program that prints this line and then waits.
@@ -67,9 +67,7 @@ TEST(FeedChild, GetsNoMoreThanItNeeds) {
                    .toUtf8()));
     addressFrom(feed);
     ::close(inherited);
-    QFile file(told);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    QList<QByteArray> lines = file.readAll().trimmed().split('\n');
+    QList<QByteArray> lines = contentOf(told).trimmed().split('\n');
     EXPECT_EQ(lines.takeLast(), "/");
     EXPECT_EQ(lines.takeLast(), "NoNewPrivs:\t1");
     for (const char* needed : {"TZ=Asia/Tokyo", "LANG=en_US.UTF-8"})

@@ -1,6 +1,5 @@
 #include "PanelProgram.h"
 
-#include <QJsonDocument>
 #include <QProcessEnvironment>
 #include <gtest/gtest.h>
 
@@ -15,10 +14,6 @@ PanelProgram::PanelProgram() : home_(freshFolder()) {
     qputenv("XDG_CONFIG_HOME", (home_ + QStringLiteral("/config")).toUtf8());
 }
 
-QJsonObject PanelProgram::Result::json() const {
-    return QJsonDocument::fromJson(out).object();
-}
-
 void PanelProgram::start(QProcess& process, const QStringList& arguments) const {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XDG_CACHE_HOME"), home_ + QStringLiteral("/cache"));
@@ -26,12 +21,11 @@ void PanelProgram::start(QProcess& process, const QStringList& arguments) const 
     process.start(command_.first(), command_.mid(1) + arguments);
 }
 
-PanelProgram::Result PanelProgram::run(const QStringList& arguments) {
+Outcome PanelProgram::run(const QStringList& arguments) {
     QProcess process;
     start(process, arguments);
     EXPECT_TRUE(waitUntil([&] { return process.state() == QProcess::NotRunning; }));
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            process.readAllStandardOutput(), process.readAllStandardError()};
+    return outcomeOf(process);
 }
 
 void PanelProgram::choosePlace(qlonglong id) const {

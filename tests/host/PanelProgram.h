@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QByteArray>
-#include <QJsonObject>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+
+#include "support/Programs.h"
 
 namespace zephyrix::testing {
 
@@ -15,14 +15,9 @@ class PanelProgram {
   public:
     PanelProgram();
 
-    struct Result {
-        int exitCode = 0;  // -1 when it was stopped by a signal
-        QByteArray out;
-        QByteArray err;
-        [[nodiscard]] QJsonObject json() const;
-    };
-    /// Runs to the end.
-    Result run(const QStringList& arguments);
+    /// Runs to the end; the words are separated by blanks.
+    Outcome run(const QString& words) { return run(QProcess::splitCommand(words)); }
+    Outcome run(const QStringList& arguments);
     /// Starts it without a display that anyone sees.
     void start(QProcess& process, const QStringList& arguments) const;
 

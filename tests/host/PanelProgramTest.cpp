@@ -28,11 +28,10 @@ const QString documentKey = QStringLiteral("lastWeatherData");
 
 class PanelProgramTest : public ::testing::Test {
   protected:
-    PanelProgram::Result run(QStringList arguments) {
-        arguments << QStringLiteral("--feed") << server_.baseAddress();
-        return panel_.run(arguments);
+    Outcome run(const QString& words) {
+        return panel_.run(words + QStringLiteral(" --feed ") + server_.baseAddress());
     }
-    static QString temperature(const PanelProgram::Result& result) {
+    static QString temperature(const Outcome& result) {
         return result.json()[QLatin1String("rows")][0][QLatin1String("temperature")].toString();
     }
 
@@ -41,7 +40,7 @@ class PanelProgramTest : public ::testing::Test {
 };
 
 TEST_F(PanelProgramTest, WithoutAPlaceItAsksForOne) {
-    const auto result = run({QStringLiteral("--text")});
+    const auto result = run(QStringLiteral("--text"));
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.out, "Please open Zephyrix to activate the widget.\n");
     EXPECT_TRUE(server_.requestLines().isEmpty());
@@ -49,7 +48,7 @@ TEST_F(PanelProgramTest, WithoutAPlaceItAsksForOne) {
 
 TEST_F(PanelProgramTest, ShowsTheFetchedWeatherAndASecondStartAsksForNothing) {
     panel_.choosePlace();
-    const auto first = run({QStringLiteral("--json"), QStringLiteral("--expanded")});
+    const auto first = run(QStringLiteral("--json --expanded"));
     EXPECT_EQ(first.exitCode, 0) << first.err.toStdString();
     const QJsonObject report = first.json();
     EXPECT_EQ(report[QLatin1String("source")], QStringLiteral("a test"));
@@ -62,7 +61,7 @@ TEST_F(PanelProgramTest, ShowsTheFetchedWeatherAndASecondStartAsksForNothing) {
     EXPECT_THAT(days[0][QLatin1String("high")].toString().toStdString(), HasSubstr("10"));
     EXPECT_EQ(server_.requestLines().size(), 1);
 
-    const auto second = run({QStringLiteral("--json")});
+    const auto second = run(QStringLiteral("--json"));
     EXPECT_EQ(temperature(second), temperature(first));
     EXPECT_EQ(second.json()[QLatin1String("rows")].toArray().size(), 1) << "--expanded is not kept";
     EXPECT_EQ(server_.requestLines().size(), 1);
@@ -70,25 +69,25 @@ TEST_F(PanelProgramTest, ShowsTheFetchedWeatherAndASecondStartAsksForNothing) {
     QVariantMap document = panel_.setting(documentKey).toMap();
     document.insert(QStringLiteral("insertDtg"), Clock::now().addingSeconds(-601).toDateTime());
     panel_.setSetting(documentKey, document);
-    run({QStringLiteral("--json")});
+    run(QStringLiteral("--json"));
     EXPECT_EQ(server_.requestLines().size(), 2);
 }
 
 TEST_F(PanelProgramTest, FeedServerOfTheSettingsIsUsed) {
     panel_.choosePlace();
     panel_.setSetting(QStringLiteral("feedServer"), server_.baseAddress().chopped(1));
-    panel_.run({QStringLiteral("--text")});
+    panel_.run(QStringLiteral("--text"));
     EXPECT_EQ(server_.requestLines().size(), 1);
     panel_.setSetting(documentKey, {});
     panel_.setSetting(QStringLiteral("feedServer"), QStringLiteral("ftp://127.0.0.1/"));
-    EXPECT_THAT(panel_.run({QStringLiteral("--text")}).err.toStdString(), HasSubstr("QK error -1"));
+    EXPECT_THAT(panel_.run(QStringLiteral("--text")).err.toStdString(), HasSubstr("QK error -1"));
 }
 
 TEST_F(PanelProgramTest, DemonstrationWeatherIsCalledThat) {
     if (threadSanitized)
         GTEST_SKIP() << "the thread sanitizer cannot follow the panel past the start of its feed";
     panel_.choosePlace();
-    const auto result = panel_.run({QStringLiteral("--text")});
+    const auto result = panel_.run(QStringLiteral("--text"));
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_THAT(result.out.toLower().toStdString(), HasSubstr("demonstration"));
     EXPECT_THAT(result.err.toStdString(), HasSubstr("demonstration weather"));
@@ -101,9 +100,9 @@ TEST_F(PanelProgramTest, NamesWhoTellsTheWeatherAlsoAfterANewStart) {
                                                "A Service\", \"licence\": \"CC BY\", "
                                                "\"fetched\": \"2026-06-01\"")));
     for (int start = 0; start < 2; ++start) {
-        const auto text = run({QStringLiteral("--text")});
+        const auto text = run(QStringLiteral("--text"));
         EXPECT_TRUE(text.out.endsWith("(A Service)\nCC BY\n")) << text.out.toStdString();
-        const QJsonObject report = run({QStringLiteral("--json")}).json();
+        const QJsonObject report = run(QStringLiteral("--json")).json();
         EXPECT_EQ(report[QLatin1String("licence")], QStringLiteral("CC BY"));
         EXPECT_EQ(report[QLatin1String("fetched")], QStringLiteral("2026-06-01"));
     }
@@ -114,11 +113,11 @@ TEST_F(PanelProgramTest, DocumentThatStopsTheProcessDoesSoOnce) {
     panel_.choosePlace();
     const QVariantMap bad{{QStringLiteral("uid"), 18228265}};
     panel_.setSetting(documentKey, bad);
-    const auto first = run({QStringLiteral("--text")});
+    const auto first = run(QStringLiteral("--text"));
     EXPECT_EQ(first.exitCode, -1);
     EXPECT_THAT(first.err.toStdString(), HasSubstr("fatal error: "));
 
-    const auto second = run({QStringLiteral("--json")});
+    const auto second = run(QStringLiteral("--json"));
     EXPECT_EQ(second.exitCode, 0) << second.err.toStdString();
     EXPECT_THAT(second.err.toStdString(), HasSubstr("lastWeatherData.rejected"));
     EXPECT_THAT(temperature(second).toStdString(), HasSubstr("21"));
@@ -129,20 +128,19 @@ TEST_F(PanelProgramTest, PictureHasTheSizeThatWasAskedFor) {
     panel_.choosePlace();
     const QString file = panel_.home() + QStringLiteral("/panel.png");
     const auto result =
-        run({QStringLiteral("--snapshot"), file, QStringLiteral("--width"), QStringLiteral("360"),
-             QStringLiteral("--scale"), QStringLiteral("1.5"), QStringLiteral("--expanded")});
+        run(QStringLiteral("--snapshot %1 --width 360 --scale 1.5 --expanded").arg(file));
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
     const QImage picture(file);
     EXPECT_EQ(picture.width(), 540);
     EXPECT_GE(picture.height(), qRound(1.5 * (110 + 104 + 36)));
-    EXPECT_EQ(run({QStringLiteral("--snapshot"), QStringLiteral("/nowhere/p.png")}).exitCode, 1);
+    EXPECT_EQ(run(QStringLiteral("--snapshot /nowhere/p.png")).exitCode, 1);
 }
 
 TEST_F(PanelProgramTest, CommandLineAloneNeedsNothing) {
-    EXPECT_THAT(panel_.run({QStringLiteral("--help")}).out.toStdString(), HasSubstr("--snapshot"));
-    EXPECT_THAT(panel_.run({QStringLiteral("--version")}).out.toStdString(),
+    EXPECT_THAT(panel_.run(QStringLiteral("--help")).out.toStdString(), HasSubstr("--snapshot"));
+    EXPECT_THAT(panel_.run(QStringLiteral("--version")).out.toStdString(),
                 HasSubstr("zephyrix-panel "));
-    const auto bad = panel_.run({QStringLiteral("--wide")});
+    const auto bad = panel_.run(QStringLiteral("--wide"));
     EXPECT_EQ(bad.exitCode, 2);
     EXPECT_THAT(bad.err.toStdString(), HasSubstr("wide"));
     EXPECT_FALSE(QDir(panel_.home() + QStringLiteral("/config")).exists()) << "nothing is written";
@@ -151,8 +149,8 @@ TEST_F(PanelProgramTest, CommandLineAloneNeedsNothing) {
 class PanelWindowTest : public PanelProgramTest {
   protected:
     /// A window without a screen that anyone sees, when its first fetch has begun.
-    void open(const QStringList& arguments) {
-        panel_.start(process_, arguments);
+    void open(const QString& words) {
+        panel_.start(process_, QProcess::splitCommand(words));
         QObject::connect(&process_, &QProcess::readyReadStandardError, &process_,
                          [this] { log_ += process_.readAllStandardError(); });
         EXPECT_TRUE(waitUntil([this] { return log_.contains("age of the weather data"); }));
@@ -195,8 +193,7 @@ TEST_F(PanelWindowTest, SignalEndsItInOrderAndWritesNoDocument) {
     server_.answerWith(answerNothing());
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         panel_.setSetting(QStringLiteral("showingAll"), {});
-        open({QStringLiteral("--window"), QStringLiteral("--expanded"), QStringLiteral("--feed"),
-              server_.baseAddress()});
+        open(QStringLiteral("--window --expanded --feed ") + server_.baseAddress());
         expectEnd(signal);
         EXPECT_EQ(process_.exitStatus(), QProcess::NormalExit) << signal;
         EXPECT_EQ(process_.exitCode(), 0) << signal;
@@ -210,7 +207,7 @@ TEST_F(PanelWindowTest, ItsFeedEndsWithItHoweverItEnds) {
     panel_.choosePlace();
     for (const int signal : {SIGTERM, SIGKILL}) {
         panel_.setSetting(documentKey, {});
-        open({QStringLiteral("--window")});
+        open(QStringLiteral("--window"));
         static const QRegularExpression address(QStringLiteral("127\\.0\\.0\\.1:([0-9]+)"));
         QRegularExpressionMatch match;
         ASSERT_TRUE(waitUntil([&] {
@@ -262,25 +259,15 @@ TEST_F(PanelProgramTest, FollowsWhatABarShows) {
     panel_.choosePlace();
     Bar bar(panel_, server_.baseAddress());
     EXPECT_EQ(bar.nextLine(), "21°C Berlin") << "the first line waits for the weather";
-    EXPECT_EQ(QProcess::execute(
-                  QStringLiteral(PROGRAM_DIR "/zephyrix"),
-                  {QStringLiteral("units"), QStringLiteral("temperature"), QStringLiteral("F")}),
-              0);
+    EXPECT_EQ(runOurs(QStringLiteral("zephyrix units temperature F")).exitCode, 0);
     EXPECT_EQ(bar.nextLine(), "70°F Berlin");
     EXPECT_EQ(server_.requestLines().size(), 1) << "units need no fetch";
     // A unit that the line does not show changes nothing, another place fetches.
-    EXPECT_EQ(
-        QProcess::execute(QStringLiteral(PROGRAM_DIR "/zephyrix"),
-                          {QStringLiteral("units"), QStringLiteral("wind"), QStringLiteral("m/s")}),
-        0);
-    EXPECT_EQ(
-        QProcess::execute(
-            QStringLiteral(PROGRAM_DIR "/zephyrix"),
-            {QStringLiteral("place"), QStringLiteral("set"), QStringLiteral("--uid"),
-             QStringLiteral("77"), QStringLiteral("--name"), QStringLiteral("Nome"),
-             QStringLiteral("--lat"), QStringLiteral("64.5"), QStringLiteral("--lon"),
-             QStringLiteral("-165.4"), QStringLiteral("--zone"), QStringLiteral("America/Nome")}),
-        0);
+    EXPECT_EQ(runOurs(QStringLiteral("zephyrix units wind m/s")).exitCode, 0);
+    EXPECT_EQ(runOurs(QStringLiteral("zephyrix place set --uid 77 --name Nome --lat 64.5 "
+                                     "--lon -165.4 --zone America/Nome"))
+                  .exitCode,
+              0);
     EXPECT_EQ(bar.nextLine(), "70°F Nome");
     EXPECT_TRUE(bar.saysNothingMore());
     bar.terminate();
