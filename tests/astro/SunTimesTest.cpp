@@ -18,7 +18,7 @@
 namespace zephyrix {
 namespace {
 
-using testing::dataLines;
+using namespace zephyrix::testing;
 
 constexpr double minute = 60.0;
 constexpr double hour = 3600.0;

@@ -13,10 +13,7 @@
 namespace zephyrix {
 namespace {
 
-using testing::ScopedEnvironment;
-using testing::showerInBerlin;
-using testing::Stage;
-using testing::Weather;
+using namespace zephyrix::testing;
 
 constexpr double noonOfJuneFirst = 1433152800.0;  // 2015-06-01 10:00 UTC, 12:00 in Berlin
 

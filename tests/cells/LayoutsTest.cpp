@@ -12,11 +12,7 @@
 namespace zephyrix {
 namespace {
 
-using testing::ScopedEnvironment;
-using testing::showerInBerlin;
-using testing::Stage;
-using testing::TextSize;
-using testing::Weather;
+using namespace zephyrix::testing;
 
 TEST(Layouts, EveryShippedOneLoads) {
     Stage stage(showerInBerlin(), 375, 1.0);  // makes the cells known
@@ -121,7 +117,7 @@ TEST(Layouts, NothingOverlapsOrIsCutAtAnyWidth) {
          {TextCase{"de_DE.UTF-8", "Llanfairpwllgwyngyll in der Lausitz"},
           TextCase{"fr_FR.UTF-8", "Saint-Remy-en-Bouzemont-Saint-Genest-et-Isson"},
           TextCase{"ru_RU.UTF-8", "Петропавловск-Камчатский"}}) {
-        testing::useLanguage(locale);
+        useLanguage(locale);
         weather.place[QStringLiteral("name")] = QString::fromUtf8(place);
         for (int width = 320; width <= 600; width += 20)
             expectGoodLayout(weather, width, locale);
@@ -131,7 +127,7 @@ TEST(Layouts, NothingOverlapsOrIsCutAtAnyWidth) {
                 expectGoodLayout(weather, width, locale);
         }
     }
-    testing::useLanguage("en_US.UTF-8");
+    useLanguage("en_US.UTF-8");
 }
 
 // The panel is the same at any size of texts, only bigger.

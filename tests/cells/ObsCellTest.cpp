@@ -5,13 +5,12 @@
 #include "Stage.h"
 #include "foundation/Clock.h"
 #include "meteo/MeteoMapping.h"
+#include "support/DataLines.h"
 
 namespace zephyrix {
 namespace {
 
-using testing::showerInBerlin;
-using testing::Stage;
-using testing::Weather;
+using namespace zephyrix::testing;
 
 class ObsCellTest : public ::testing::Test {
   protected:
@@ -48,25 +47,12 @@ TEST_F(ObsCellTest, FillsEveryView) {
     EXPECT_EQ(cell->height(), 110);
 }
 
-struct UnitCase {
-    int temperature, wind, precipitation, pressure;
-    const char* texts;  // temperature; wind, unit; precipitation, unit; pressure, unit
-};
-
 TEST_F(ObsCellTest, ShowsEachValueInTheChosenUnit) {
-    constexpr UnitCase cases[] = {
-        {0, 0, 0, 0, "14°C 3 Bft 0.4 mm 1013.2 hPa"},
-        {1, 1, 1, 1, "58°F 10 kn 0.02 in 29.92 inHg"},
-        {2, 2, 0, 2, "-259K 19 km/h 0.4 mm 760 Torr"},  // Kelvin's exchanged sign is wanted
-        {0, 3, 0, 0, "14°C 5 m/s 0.4 mm 1013.2 hPa"},
-        {0, 4, 0, 0, "14°C 12 mph 0.4 mm 1013.2 hPa"},
-    };
     ObsCell* cell = cellOf(showerInBerlin());
-    for (const UnitCase& units : cases) {
-        stage->defaults().set(QStringLiteral("temperature"), units.temperature);
-        stage->defaults().set(QStringLiteral("wind"), units.wind);
-        stage->defaults().set(QStringLiteral("precipitation"), units.precipitation);
-        stage->defaults().set(QStringLiteral("pressure"), units.pressure);
+    forEachLine("cells/units.tsv", [&](const DataLine& line) {
+        int column = 0;
+        for (const char* unit : {"temperature", "wind", "precipitation", "pressure"})
+            stage->defaults().set(QLatin1String(unit), line.integer(column++));
         layOut(cell);
         const QStringList shown = {cell->detailLabel1()->text(),
                                    cell->windContainer()->windSpeedLabel()->text(),
@@ -75,8 +61,8 @@ TEST_F(ObsCellTest, ShowsEachValueInTheChosenUnit) {
                                    cell->rrrUnits()->text(),
                                    cell->ppp()->text(),
                                    cell->pppUnits()->text()};
-        EXPECT_EQ(shown.join(u' '), QString::fromUtf8(units.texts));
-    }
+        EXPECT_EQ(shown.join(u' '), line[4]);
+    });
 }
 
 // 23:30 UTC is 01:30 two hours further east.

@@ -5,6 +5,7 @@
 
 #include "foundation/NamedException.h"
 #include "model/LocationResult.h"
+#include "support/DataLines.h"
 
 namespace zephyrix {
 namespace {
@@ -103,28 +104,14 @@ TEST(LocationResult, AsDictNamesTheFirstMissingValue) {
 }
 
 TEST(LocationResult, ValidityNeedsUidNameAndAPlaceOffTheOrigin) {
-    struct Case {
-        int uid;
-        const char* name;
-        double latitude;
-        double longitude;
-        bool valid;
-        const char* why;
-    };
-    for (const Case& c : {Case{1, "x", 0.0, 5.0, true, "on the equator"},
-                          Case{1, "x", -5.0, 0.0, true, "on the prime meridian"},
-                          Case{1, "x", 0.0, 0.0, false, "at the origin"},
-                          Case{1, "x", 1e-50, 0.0, false, "nothing left in single precision"},
-                          Case{0, "x", 5.0, 5.0, false, "uid below 1"},
-                          Case{-7, "x", 5.0, 5.0, false, "negative uid"},
-                          Case{1, "", 5.0, 5.0, false, "empty name"}}) {
+    testing::forEachLine("model/validity.tsv", [](const testing::DataLine& line) {
         LocationResult place;
-        place.setUid(Number(c.uid));
-        place.setName(QString::fromLatin1(c.name));
-        place.setLatitude(Number(c.latitude));
-        place.setLongitude(Number(c.longitude));
-        EXPECT_EQ(place.checkValidity(), c.valid) << c.why;
-    }
+        place.setUid(Number(line.integer(0)));
+        place.setName(line[1]);
+        place.setLatitude(Number(line.number(2)));
+        place.setLongitude(Number(line.number(3)));
+        EXPECT_EQ(place.checkValidity(), line.isYes(4));
+    });
 }
 
 TEST(LocationResult, OnlyTheUidDecidesEquality) {

@@ -7,6 +7,7 @@
 
 #include "foundation/Description.h"
 #include "model/Obs.h"
+#include "support/DataLines.h"
 
 namespace zephyrix {
 namespace {
@@ -71,31 +72,19 @@ TEST(Obs, GivesBackItsDictionaryUnchanged) {
     EXPECT_EQ(obs.asDict(), QVariantMap());
 }
 
-struct DateText {
-    const char* text;
-    double seconds;  // since 1970, or `refused`
-};
-
-constexpr double refused = -1.0;
-constexpr double tenOClock = 1433152800.0;  // `date -u -d '2015-06-01 10:00:00' +%s`
-
-constexpr std::array dateTexts{
-    DateText{"2015-06-01T12:00:00+02:00", tenOClock},
-    DateText{"2015-06-01T06:30:00-03:30", tenOClock},
-    DateText{"2015-02-29T00:00:00Z", refused},  // no such day
-    DateText{"2015-06-01T10:00:00", refused},   // no offset, no instant
-    DateText{"", refused},
-};
+constexpr Instant tenOClock = Instant::fromSecondsSince1970(1433152800.0);
 
 TEST(Obs, TakesDateTextsStrictly) {
-    for (const DateText& row : dateTexts) {
-        const auto date = Obs::dateFromISO8601DateTimeString(QString::fromUtf8(row.text));
-        EXPECT_EQ(date ? date->secondsSince1970() : refused, row.seconds) << row.text;
-    }
+    testing::forEachLine("model/date_texts.tsv", [](const testing::DataLine& line) {
+        const auto date = Obs::dateFromISO8601DateTimeString(line[0]);
+        EXPECT_EQ(date.has_value(), line.isYes(1));
+        EXPECT_EQ(date.value_or(tenOClock), tenOClock);
+    });
+    EXPECT_FALSE(Obs::dateFromISO8601DateTimeString({}));
 }
 
 TEST(Obs, TakesDateObjectsAsTheyStand) {
-    const Instant instant = Instant::fromSecondsSince1970(tenOClock + 0.5);
+    const Instant instant = tenOClock.addingSeconds(0.5);
     EXPECT_EQ(Obs::dateFromObject(instant.toDateTime()), instant);
     EXPECT_EQ(Obs::dateFromObject(QVariant::fromValue(instant)), instant);
     EXPECT_EQ(Obs::dateFromObject(QDateTime()), std::nullopt);

@@ -9,7 +9,7 @@
 namespace zephyrix {
 namespace {
 
-using testing::dataLines;
+using namespace zephyrix::testing;
 
 constexpr double day = 86400.0;
 constexpr double noonOf2024March31 = 1711886400.0;  // UTC; clocks change in Europe on that day
@@ -27,15 +27,14 @@ double length(const QKTimeRange& range) {
 }
 
 TEST(QKTimeRange, DaysBeginAtTheMidnightsOfTheZone) {
-    for (const QStringList& row : dataLines(QStringLiteral("calendar/day-ranges.tsv"))) {
-        const ReplacedClock clock([&] { return at(row[1].toDouble()); });
-        const auto range =
-            QKTimeRange::timeRangeFromDay(row[2].toInt(), row[3].toInt(), timeZoneWithName(row[0]));
-        EXPECT_EQ(range.startDtg(), at(row[4].toDouble()))
-            << row.join(QLatin1Char(' ')).toStdString();
-        EXPECT_EQ(range.endDtg(), at(row[5].toDouble()))
-            << row.join(QLatin1Char(' ')).toStdString();
-    }
+    forEachLine("calendar/day-ranges.tsv", [](const DataLine& line) {
+        const ReplacedClock clock([&] { return at(line.number(1)); });
+        const auto range = QKTimeRange::timeRangeFromDay(static_cast<int>(line.integer(2)),
+                                                         static_cast<int>(line.integer(3)),
+                                                         timeZoneWithName(line[0]));
+        EXPECT_EQ(range.startDtg(), at(line.number(4)));
+        EXPECT_EQ(range.endDtg(), at(line.number(5)));
+    });
 }
 
 TEST(QKTimeRange, ConsecutiveDaysJoinWithoutGap) {

@@ -4,43 +4,29 @@
 
 #include "SymbolSet.h"
 #include "foundation/NamedException.h"
+#include "support/DataLines.h"
 #include "symbols/ImageResize.h"
 
 namespace zephyrix {
 namespace {
 
-using testing::filled;
+using namespace zephyrix::testing;
 
 constexpr auto highQuality = InterpolationQuality::High;
 constexpr auto fit = ContentMode::ScaleAspectFit;
-constexpr auto fill = ContentMode::ScaleAspectFill;
 
 TEST(ImageResize, FitsAndFillsABoxByTheImagesSizeInPoints) {
-    struct Case {
-        QSize pixels;
-        double scale;
-        ContentMode mode;
-        QSizeF box;
-        QSize expected;
-    };
-    const Case cases[] = {
-        {{64, 64}, 1.0, fit, {40, 30}, {30, 30}},
-        {{64, 64}, 1.0, fill, {40, 30}, {40, 40}},
-        {{64, 32}, 1.0, fit, {40, 30}, {40, 20}},
-        {{64, 32}, 1.0, fill, {40, 30}, {60, 30}},
-        {{90, 60}, 3.0, fit, {60, 60}, {60, 40}},       // 30 x 20 points
-        {{100, 50}, 1.0, fit, {33.4, 33.4}, {34, 17}},  // 33.4 x 16.7: parts of pixels count
-        {{8, 8}, 1.0, fit, {100, 0.25}, {1, 1}},
-        {{8, 8}, 1.0, fit, {40, 0}, {}},
-        {{}, 1.0, fit, {40, 40}, {}},
-    };
-    for (const Case& each : cases) {
-        QImage image = filled(each.pixels, Qt::red);
-        image.setDevicePixelRatio(each.scale);
-        const QImage resized = resizedImageWithContentMode(image, each.mode, each.box, highQuality);
-        EXPECT_EQ(resized.size(), each.expected.isValid() ? each.expected : QSize(0, 0));
+    forEachLine("symbols/boxes.tsv", [](const DataLine& line) {
+        const auto size = [&](int column) {
+            return QSizeF(line.number(column), line.number(column + 1));
+        };
+        QImage image = filled(size(0).toSize(), Qt::red);
+        image.setDevicePixelRatio(line.number(2));
+        const QImage resized = resizedImageWithContentMode(
+            image, line[3] == u"fit" ? fit : ContentMode::ScaleAspectFill, size(4), highQuality);
+        EXPECT_EQ(resized.size(), size(6).toSize());
         EXPECT_EQ(resized.devicePixelRatio(), 1.0);
-    }
+    });
 }
 
 TEST(ImageResize, RaisesForOtherContentModes) {

@@ -13,11 +13,9 @@
 namespace zephyrix {
 namespace {
 
-using testing::dataLines;
-using testing::filled;
-using testing::setScreenScale;
+using namespace zephyrix::testing;
 
-class CompoundSymbol : public testing::SymbolSet {
+class CompoundSymbol : public SymbolSet {
   protected:
     QKCompoundSymbol symbols;
 };
@@ -146,24 +144,15 @@ TEST_F(CompoundSymbol, AsksForTheImagesThatTheDigitsName) {
     }
 }
 
+// From one code to the next through one instance; twice, so that the second time comes from the
+// cache, which must not stand in the way.
 TEST_F(CompoundSymbol, KeepsTheLightningOfTheSymbolBeforeWhereACodeSaysNothing) {
-    // From one code to the next through one instance; twice, so that the second time comes from
-    // the cache, which must not stand in the way.
-    const struct {
-        int code;
-        bool lightning;
-    } sequence[] = {
-        {100020, true},  {100010, true},  {100090, true},  {100019, true},  {100009, false},
-        {100010, false}, {100090, false}, {100059, true},  {100060, false}, {199909, false},
-        {199910, true},  {199899, false}, {199819, false}, {199919, true},  {100089, false},
-        {100020, true},  {100091, false}, {100020, true},  {100000, false},
-    };
     symbols.setUseCache(true);
     for (int round = 0; round < 2; ++round)
-        for (const auto& each : sequence) {
-            (void)symbols.symbolForCode(Number(each.code), QSizeF(8, 8));
-            EXPECT_EQ(symbols.lightning(), each.lightning) << each.code << " round " << round;
-        }
+        forEachLine("symbols/lightning.tsv", [this](const DataLine& line) {
+            (void)symbols.symbolForCode(Number(line.integer(0)), QSizeF(8, 8));
+            EXPECT_EQ(symbols.lightning(), line.isYes(1));
+        });
     symbols.specialForSymbol(20);
     EXPECT_TRUE(symbols.lightning());
 }
@@ -182,26 +171,16 @@ TEST_F(CompoundSymbol, ACachedPictureIsTheOneDrawnFirstWhateverTheLightning) {
 }
 
 TEST_F(CompoundSymbol, ShowsTheMoonOfTheDate) {
-    // The principal phases of June and July 2015 as almanacs give them (UTC), and days between.
-    const struct {
-        const char* time;
-        int image;
-    } nights[] = {
-        {"2015-06-16T14:05:00Z", 1}, {"2015-06-20T12:00:00Z", 2}, {"2015-06-24T11:03:00Z", 3},
-        {"2015-06-28T12:00:00Z", 4}, {"2015-07-02T02:20:00Z", 5}, {"2015-07-05T12:00:00Z", 6},
-        {"2015-07-08T20:24:00Z", 7}, {"2015-07-12T12:00:00Z", 8},
-    };
     symbols.setUseCache(true);
-    for (const auto& night : nights)
-        addFilled(QStringLiteral("moon%1").arg(night.image));
-    for (const auto& night : nights) {
-        const auto date = Instant::fromDateTime(
-            QDateTime::fromString(QString::fromLatin1(night.time), Qt::ISODate));
+    for (int image = 1; image <= 8; ++image)
+        addFilled(QStringLiteral("moon%1").arg(image));
+    forEachLine("symbols/moons.tsv", [this](const DataLine& line) {
+        const auto date = Instant::fromDateTime(QDateTime::fromString(line[0], Qt::ISODate));
         const QImage picture = symbols.symbolForCode(Number(2999999), QSizeF(8, 8), date);
-        EXPECT_EQ(nameOf(picture), QStringLiteral("moon%1").arg(night.image)) << night.time;
+        EXPECT_EQ(nameOf(picture), QStringLiteral("moon") + line[1]);
         EXPECT_TRUE(QKWeatherSymbols::symbolCache().contains(
-            QStringLiteral("%1+0+2999999+8.00+8.00+1.00.png").arg(night.image)));
-    }
+            QStringLiteral("%1+0+2999999+8.00+8.00+1.00.png").arg(line[1])));
+    });
     EXPECT_EQ(nameOf(symbols.symbolForCode(Number(2999999), QSizeF(8, 8))),
               QStringLiteral("moon8"));
 }
@@ -225,30 +204,15 @@ TEST_F(CompoundSymbol, FieldsAfterACode) {
 
 TEST_F(CompoundSymbol, KeysByteForByte) {
     symbols.setUseCache(true);
-    const struct {
-        Number code;
-        QSizeF size;
-        double screenScale;
-        bool ignoreCelestrial;
-        const char* key;
-    } cases[] = {
-        {Number(1100000), {40, 40}, 2.0, false, "0+1100000+40.00+40.00+2.00.png"},
-        {Number(1100000), {40, 40}, 2.0, true, "1+1100000+40.00+40.00+2.00.png"},
-        {Number(2100000), {8, 4.5}, 1.0, false, "8+0+2100000+8.00+4.50+1.00.png"},
-        {Number(3000000), {8, 8}, 1.0, true, "8+1+3000000+8.00+8.00+1.00.png"},
-        {Number(100000), {0.625, 1234.5}, 1.5, false, "0+100000+0.62+1234.50+1.50.png"},
-        {Number(100000), {33.335, 8}, 1.115, false, "0+100000+33.34+8.00+1.11.png"},  // as doubles
-        {Number(1.5), {8, 8}, 12.25, false, "0+1.5+8.00+8.00+12.25.png"},
-        {Number(-10), {8, 8}, 1.0, false, "0+-10+8.00+8.00+1.00.png"},
-    };
-    for (const auto& each : cases) {
+    forEachLine("symbols/keys.tsv", [this](const DataLine& line) {
         QKWeatherSymbols::clearCache();
-        setScreenScale(each.screenScale);
-        symbols.setIgnoreCelestrial(each.ignoreCelestrial);
-        EXPECT_FALSE(symbols.symbolForCode(each.code, each.size).isNull()) << each.key;
-        EXPECT_EQ(QKWeatherSymbols::symbolCache().keys(),
-                  QStringList{QString::fromLatin1(each.key)});
-    }
+        setScreenScale(line.number(3));
+        symbols.setIgnoreCelestrial(line.isYes(4));
+        const Number code =
+            line[0].contains(u'.') ? Number(line.number(0)) : Number(line.integer(0));
+        EXPECT_FALSE(symbols.symbolForCode(code, {line.number(1), line.number(2)}).isNull());
+        EXPECT_EQ(QKWeatherSymbols::symbolCache().keys(), QStringList{line[5]});
+    });
 }
 
 TEST_F(CompoundSymbol, RoundsTheBitmapAndRefusesImpossibleSizes) {

@@ -11,6 +11,7 @@
 
 #include "SymbolSet.h"
 #include "foundation/UserDefaults.h"
+#include "support/Files.h"
 #include "support/TestHome.h"
 #include "symbols/QKCompoundSymbol.h"
 #include "symbols/QKWeatherSymbols.h"
@@ -18,16 +19,15 @@
 namespace zephyrix {
 namespace {
 
-using testing::filled;
-using testing::setScreenScale;
+using namespace zephyrix::testing;
 
-class WeatherSymbols : public testing::SymbolSet {};
+class WeatherSymbols : public SymbolSet {};
 
 const QColor set0Lamp(40, 50, 60);   // symbols_0/lamp of the catalogue
 const QColor plainLamp(10, 20, 30);  // PlainLamp of the catalogue
 
 QString cacheFolder() {
-    return testing::testHome() + QStringLiteral("/cache/zephyrix-panel/symbolCache");
+    return testHome() + QStringLiteral("/cache/zephyrix-panel/symbolCache");
 }
 
 QString key() {
@@ -41,16 +41,6 @@ QImage keptThroughRestart() {
     QKWeatherSymbols::addObjectToCache(image, key());
     QKWeatherSymbols::startAfresh();
     return image;
-}
-
-bool overwrite(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
-QByteArray contents(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 TEST_F(WeatherSymbols, WithoutABundleEveryNameIsOneOfSet0InTheProgram) {
@@ -171,7 +161,7 @@ TEST_F(WeatherSymbols, ACutOffOrForeignFileIsAMissAndIsReplaced) {
     const QString own = QKWeatherSymbols::symbolCache().keys().constFirst();
     QKWeatherSymbols::startAfresh();
     const QString path = cacheFolder() + QLatin1Char('/') + own;
-    const QByteArray whole = contents(path);
+    const QByteArray whole = contentOf(path);
     ASSERT_GT(whole.size(), 100);
 
     QList<QByteArray> broken;
@@ -182,7 +172,7 @@ TEST_F(WeatherSymbols, ACutOffOrForeignFileIsAMissAndIsReplaced) {
     damaged[damaged.size() / 2] = static_cast<char>(damaged[damaged.size() / 2] ^ 0x55);
     broken += damaged;
     for (const QByteArray& bytes : broken) {
-        ASSERT_TRUE(overwrite(path, bytes));
+        overwrite(path, bytes);
         const QImage found = QKWeatherSymbols::imageFromCacheForKey(own);
         if (whole.startsWith(bytes) && whole.size() - bytes.size() < 12)  // all but the end mark
             EXPECT_TRUE(found.isNull() || found == drawn) << bytes.size();
@@ -192,7 +182,7 @@ TEST_F(WeatherSymbols, ACutOffOrForeignFileIsAMissAndIsReplaced) {
     }
     EXPECT_EQ(symbols.symbolForCode(Number(1000000), QSizeF(24, 24)), drawn);
     QKWeatherSymbols::waitForFiles();
-    EXPECT_EQ(contents(path), whole);
+    EXPECT_EQ(contentOf(path), whole);
 }
 
 TEST_F(WeatherSymbols, TakesNeitherGiantsNorPipesForSymbols) {
@@ -209,7 +199,7 @@ TEST_F(WeatherSymbols, TakesNeitherGiantsNorPipesForSymbols) {
 TEST_F(WeatherSymbols, AFileInPlaceOfTheFolderLeavesTheMemory) {
     QKWeatherSymbols::startAfresh();
     QDir(cacheFolder()).removeRecursively();
-    ASSERT_TRUE(overwrite(cacheFolder(), "in the way"));
+    overwrite(cacheFolder(), "in the way");
     QKWeatherSymbols::startAfresh();
     const QImage image = filled({4, 4}, Qt::red);
     QKWeatherSymbols::addObjectToCache(image, key());

@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <gtest/gtest.h>
 
+#include "support/DataLines.h"
 #include "ui/Label.h"
 #include "ui/Nib.h"
 #include "ui/TableCell.h"
@@ -54,31 +55,7 @@ TEST(Nib, EachInstanceIsItsOwn) {
 
 // Each kind of value, layout and item that the shipped layouts use.
 TEST(Nib, ViewsAreAsDescribed) {
-    const Nib nib = nibOf(
-        "<widget class=\"View\" name=\"root\">"
-        "<property name=\"geometry\"><rect><x>0</x><y>0</y><width>200</width>"
-        "<height>50</height></rect></property>"
-        "<layout class=\"QHBoxLayout\" name=\"row\" stretch=\"1,0,0\">"
-        "<property name=\"spacing\"><number>0</number></property>"
-        "<property name=\"leftMargin\"><number>3</number></property>"
-        "<property name=\"topMargin\"><number>0</number></property>"
-        "<property name=\"rightMargin\"><number>5</number></property>"
-        "<property name=\"bottomMargin\"><number>0</number></property>"
-        "<item><widget class=\"Label\" name=\"label\">"
-        "<property name=\"alignment\"><set>Qt::AlignTrailing|Qt::AlignBottom</set></property>"
-        "<property name=\"sizePolicy\"><sizepolicy hsizetype=\"Ignored\" vsizetype=\"Fixed\"/>"
-        "</property><property name=\"wordWrap\"><bool>true</bool></property>"
-        "<property name=\"minimumScale\"><double>0.5</double></property></widget></item>"
-        "<item><spacer name=\"gap\"><property name=\"orientation\"><enum>Qt::Horizontal</enum>"
-        "</property><property name=\"sizeType\"><enum>QSizePolicy::Fixed</enum></property>"
-        "<property name=\"sizeHint\" stdset=\"0\"><size><width>12</width><height>1</height></size>"
-        "</property></spacer></item>"
-        "<item><layout class=\"QGridLayout\" name=\"grid\" columnstretch=\"0,1\">"
-        "<property name=\"horizontalSpacing\"><number>7</number></property>"
-        "<item row=\"1\" column=\"1\" alignment=\"Qt::AlignHCenter\">"
-        "<widget class=\"View\" name=\"inGrid\"><property name=\"minimumSize\"><size>"
-        "<width>30</width><height>10</height></size></property></widget></item>"
-        "</layout></item></layout></widget>");
+    const Nib nib(QStringLiteral("Test"), testing::dataFile(QStringLiteral("ui/each_kind.ui")));
     const std::unique_ptr<View> root(nib.instantiate<View>(nullptr));
     activateLayouts(root.get());
     const auto* label = outlet<Label>(root.get(), QStringLiteral("label"));

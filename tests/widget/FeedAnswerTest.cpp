@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/Clock.h"
+#include "support/DataLines.h"
 #include "widget/FeedAnswer.h"
 
 namespace zephyrix {
@@ -26,34 +27,16 @@ TEST(FeedAnswer, TakesObservationAndForecast) {
     EXPECT_TRUE(answer.document.forecast->first().toMap().contains("tx"));
 }
 
-struct Body {
-    QByteArray json;
-    bool obs;
-    bool forecast;
-};
-
 TEST(FeedAnswer, JsonOfAnotherShapeLeavesTheFieldAbsentWithoutError) {
-    const std::array bodies{
-        Body{"", false, false},
-        Body{"{}", false, false},
-        Body{"[]", false, false},
-        Body{R"([{"obs": {"lastObs": {}}}])", false, false},
-        Body{R"({"obs": {"lastObs": {}}})", true, false},
-        Body{R"({"obs": {"lastObs": [{}]}, "forecast": {"days": {"day": []}}})", false, true},
-        Body{R"({"obs": [{"lastObs": {}}], "forecast": {"days": {"day": [{}]}}})", false, true},
-        Body{R"({"obs": {"lastObs": {}}, "forecast": {"days": {"day": {}}}})", true, false},
-        Body{R"({"obs": {"lastObs": {}}, "forecast": {"days": {"day": [{}, 1]}}})", true, false},
-        Body{R"({"obs": {"lastObs": {}}, "forecast": {"days": [{}]}})", true, false},
-        Body{R"({"obs": {"lastObs": {}}, "forecast": null})", true, false},
-    };
-    for (const Body& body : bodies) {
-        const FeedAnswer answer = FeedAnswer::fromBody(body.json, place);
-        EXPECT_FALSE(answer.error) << body.json.toStdString();
-        EXPECT_EQ(answer.document.obs.has_value(), body.obs) << body.json.toStdString();
-        EXPECT_EQ(answer.document.uid.has_value(), body.obs) << body.json.toStdString();
-        EXPECT_EQ(answer.document.insertDtg.has_value(), body.obs) << body.json.toStdString();
-        EXPECT_EQ(answer.document.forecast.has_value(), body.forecast) << body.json.toStdString();
-    }
+    testing::forEachLine("widget/answers.tsv", [](const testing::DataLine& line) {
+        const FeedAnswer answer = FeedAnswer::fromBody(line.utf8(0), place);
+        const bool observed = line.isYes(1);
+        EXPECT_FALSE(answer.error);
+        EXPECT_EQ(answer.document.obs.has_value(), observed);
+        EXPECT_EQ(answer.document.uid.has_value(), observed);
+        EXPECT_EQ(answer.document.insertDtg.has_value(), observed);
+        EXPECT_EQ(answer.document.forecast.has_value(), line.isYes(2));
+    });
 }
 
 TEST(FeedAnswer, WhatIsNoJsonIsTheParsersError) {
