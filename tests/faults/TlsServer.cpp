@@ -2,43 +2,35 @@
 
 #include <utility>
 
-#include <QFile>
-#include <QProcess>
 #include <QSslConfiguration>
 #include <QSslKey>
 #include <QTcpSocket>
 #include <gtest/gtest.h>
 
+#include "support/Files.h"
+#include "support/Programs.h"
 #include "support/TestHome.h"
 
 namespace zephyrix::testing {
 
 namespace {
 
-void runOpenssl(const QString& folder, const QString& arguments) {
-    QProcess openssl;
-    openssl.setWorkingDirectory(folder);
-    openssl.start(QStringLiteral("openssl"), arguments.split(QLatin1Char(' ')));
-    EXPECT_TRUE(openssl.waitForFinished() && openssl.exitCode() == 0)
-        << openssl.readAllStandardError().toStdString();
-}
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return file.readAll();
+void runOpenssl(const QString& arguments) {
+    const Outcome openssl = runCommand(QStringLiteral("openssl ") + arguments);
+    EXPECT_EQ(openssl.exitCode, 0) << openssl.err.toStdString();
 }
 
 }  // namespace
 
 Certificate::Certificate(const QString& host, int days) : folder(freshFolder()) {
-    runOpenssl(folder, QStringLiteral("req -new -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 "
-                                      "-nodes -keyout key.pem -out request.pem -subj /CN=feed "
-                                      "-addext subjectAltName=%1")
-                           .arg(host));
-    runOpenssl(folder, QStringLiteral("x509 -req -in request.pem -signkey key.pem -days %1 "
-                                      "-copy_extensions copy -out certificate.pem")
-                           .arg(days));
+    runOpenssl(QStringLiteral("req -new -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 "
+                              "-nodes -keyout %2/key.pem -out %2/request.pem -subj /CN=feed "
+                              "-addext subjectAltName=%1")
+                   .arg(host, folder));
+    runOpenssl(QStringLiteral("x509 -req -in %2/request.pem -signkey %2/key.pem -days %1 "
+                              "-copy_extensions copy -out %2/certificate.pem")
+                   .arg(days)
+                   .arg(folder));
 }
 
 QSslCertificate Certificate::certificate() const {

@@ -1,5 +1,4 @@
 // The list itself: what is in it, and that its makers and its readers fold names alike.
-#include <QFile>
 #include <QSet>
 #include <gtest/gtest.h>
 
@@ -7,17 +6,21 @@
 #include "foundation/TimeZone.h"
 #include "places/CoordinateUid.h"
 #include "places/PlaceList.h"
+#include "support/DataLines.h"
+#include "support/Files.h"
 #include "support/TestHome.h"
 
 namespace zephyrix {
 namespace {
 
+using namespace zephyrix::testing;
+
 /// The rows of a table of resources/places.
 QVector<QStringList> tableRows(const char* name) {
-    QFile file(QStringLiteral(SOURCE_DIR "/resources/places/") + QString::fromLatin1(name));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray table =
+        contentOf(QStringLiteral(SOURCE_DIR "/resources/places/") + QLatin1String(name));
     QVector<QStringList> rows;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n')))
+    for (const QString& line : QString::fromUtf8(table).split(QLatin1Char('\n')))
         if (!line.isEmpty() && !line.startsWith(QLatin1Char('#')))
             rows << line.split(QLatin1Char('\t'));
     return rows;
@@ -87,39 +90,20 @@ TEST(PlaceList, APlaceIsOneThatTheSettingsCanKeep) {
 
 TEST(PlaceList, KnowsTheZoneOfAnyCoordinates) {
     PlaceList list(QStringLiteral("en"));
-    struct Case {
-        Coordinate where;
-        const char* zone;
-        const char* why;
-    };
-    const std::array cases{
-        Case{{52.52, 13.40}, "Europe/Berlin", "in a city"},
-        Case{{78.22, 15.65}, "Arctic/Longyearbyen", "far north"},
-        Case{{-16.50, 179.99}, "Pacific/Fiji", "before the date line"},
-        Case{{-16.80, -179.99}, "Pacific/Fiji", "the nearest place is beyond it"},
-        Case{{-23.0, -133.0}, "Etc/GMT+9", "high seas in the west"},
-        Case{{-40.0, 80.0}, "Etc/GMT-5", "high seas in the east"},
-        Case{{-20.0, 5.0}, "Etc/GMT", "high seas at Greenwich"},
-        Case{{90.0, 0.0}, "Etc/GMT", "the pole"},
-        Case{{-90.0, 180.0}, "Etc/GMT-12", "the other pole"},
-    };
-    for (const Case& aCase : cases) {
-        EXPECT_EQ(list.zoneAt(aCase.where), QLatin1String(aCase.zone)) << aCase.why;
-        EXPECT_TRUE(timeZoneWithName(QLatin1String(aCase.zone)).isValid()) << aCase.zone;
-    }
+    forEachLine("places/zones.tsv", [&](const DataLine& line) {
+        EXPECT_EQ(list.zoneAt({line.number(0), line.number(1)}), line[2]);
+        EXPECT_TRUE(timeZoneWithName(line[2]).isValid());
+    });
 }
 
 /// A bundle whose list is something else, until the test ends.
 class OtherList : public ::testing::TestWithParam<const char*> {
   protected:
     OtherList() {
-        const QString folder = testing::freshFolder();
+        const QString folder = freshFolder();
         Bundle::main().setDataDirectory(folder);
-        if (GetParam() == nullptr)
-            return;
-        QFile file(folder + QStringLiteral("/places.sqlite"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(GetParam());
+        if (GetParam() != nullptr)
+            overwrite(folder + QStringLiteral("/places.sqlite"), GetParam());
     }
     ~OtherList() override { Bundle::main().setDataDirectory(QString()); }
 };

@@ -1,16 +1,15 @@
-#include <array>
 #include <set>
 #include <string>
 
 #include <gtest/gtest.h>
 
+#include "support/DataLines.h"
 #include "symbolscheme/SymbolScheme.h"
 
 using namespace zephyrix;
+using namespace zephyrix::testing;
 
 namespace {
-
-constexpr int kNoReport = -9999;
 
 bool isThunder(std::string_view name) {
     const bool over = name.find("in the last hour") != std::string_view::npos;
@@ -34,30 +33,12 @@ Lightning lightningOf(std::uint32_t code) {
 }  // namespace
 
 TEST(SymbolScheme, CodesOfWellKnownWeathers) {
-    struct Case {
-        int ww, eighths;
-        CelestialBody body;
-        std::uint32_t code;
-        const char* why;
-    };
-    constexpr auto sun = CelestialBody::Sun;
-    constexpr auto moon = CelestialBody::Moon;
-    constexpr std::array cases{
-        Case{0, 0, sun, 1000000, "clear day"},
-        Case{2, 0, moon, 2000000, "clear night"},
-        Case{2, 2, sun, 1100000, "few clouds"},
-        Case{3, 8, moon, 300000, "overcast hides the moon"},
-        Case{kNoReport, 4, sun, 1200000, "no present weather: the sky alone"},
-        Case{100, 4, sun, 1200000, "past the table: the sky alone"},
-        Case{2, kNoReport, moon, 2200000, "no cloud report"},
-        Case{80, 4, sun, 1121100, "light showers, sun and a small pale cloud"},
-        Case{63, 8, sun, 520200, "rain, a large grey cloud"},
-        Case{95, 3, moon, 2121230, "thunderstorm at night, the small cloud's thunder twin"},
-        Case{45, 9, sun, 70300, "fog hides everything"},
-        Case{44, 1, sun, 1970200, "fog with the sun through it: no cloud, no shade"},
-    };
-    for (const Case& row : cases)
-        EXPECT_EQ(symbolCode(row.ww, row.eighths, row.body), row.code) << row.why;
+    forEachLine("symbols/codes.tsv", [](const DataLine& line) {
+        const auto body = line[2] == u"moon" ? CelestialBody::Moon : CelestialBody::Sun;
+        EXPECT_EQ(
+            symbolCode(static_cast<int>(line.integer(0)), static_cast<int>(line.integer(1)), body),
+            line.integer(3));
+    });
     EXPECT_EQ(withWarning(1121104, 3), 1121103U);
     EXPECT_EQ(warningCode(2), 9999992U);
 }

@@ -1,4 +1,3 @@
-#include <array>
 #include <memory>
 
 #include <QDir>
@@ -10,10 +9,14 @@
 #include "meteo/MeteoDB.h"
 #include "meteo/MeteoMapping.h"
 #include "model/LocationResult.h"
+#include "support/DataLines.h"
+#include "support/Files.h"
 #include "support/TestHome.h"
 
 namespace zephyrix {
 namespace {
+
+using namespace zephyrix::testing;
 
 constexpr int missing = -9999;
 const QStringList languages = QStringLiteral("de en pl nl fr es sv it ru").split(QLatin1Char(' '));
@@ -53,55 +56,18 @@ TEST(WeatherTexts, EveryPairOfCodesHasASentenceInEverySet) {
 }
 
 TEST(WeatherTexts, EachLanguageSpeaksForItselfByDayAndByNight) {
-    struct Case {
-        const char* language;
-        const char* byDay;
-        const char* byNight;
-    };
-    const std::array cases{
-        Case{"de", "sonnig", "klar"},
-        Case{"en", "sunny", "clear"},
-        Case{"pl", "słonecznie", "bezchmurnie"},
-        Case{"nl", "zonnig", "helder"},
-        Case{"fr", "ensoleillé", "ciel dégagé"},
-        Case{"es", "soleado", "despejado"},
-        Case{"sv", "soligt", "klart"},
-        Case{"it", "soleggiato", "sereno"},
-        Case{"ru", "солнечно", "ясно"},
-        Case{"EN", "sunny", "clear"},
-        Case{"DE", "sunny", "clear"},
-        Case{"en-GB", "sunny", "clear"},
-        Case{"de-AT", "sunny", "clear"},
-        Case{"xx", "sunny", "clear"},
-        Case{"", "sunny", "clear"},
-    };
-    for (const Case& each : cases) {  // in turn on the one statement
-        const QString language = QLatin1String(each.language);
-        EXPECT_EQ(text(0, missing, language, true), QString::fromUtf8(each.byDay)) << each.language;
-        EXPECT_EQ(text(0, missing, language, false), QString::fromUtf8(each.byNight));
-    }
+    forEachLine("texts/clear_skies.tsv", [](const DataLine& line) {  // in turn on one statement
+        EXPECT_EQ(text(0, missing, line[0], true), line[1]);
+        EXPECT_EQ(text(0, missing, line[0], false), line[2]);
+    });
 }
 
 TEST(WeatherTexts, TheHeavierCodeSpeaks) {
-    struct Case {
-        int n;
-        int ww;
-        const char* sentence;
-        const char* why;
-    };
-    const std::array cases{
-        Case{8, 61, "light rain", "falling rain beats any cloud"},
-        Case{8, 21, "overcast", "past rain does not beat a grey sky"},
-        Case{6, 21, "rain earlier", "but a lighter one"},
-        Case{0, 3, "sunny", "the development of clouds is no weather"},
-        Case{missing, 3, "clouds building up", "unless nothing else is known"},
-        Case{8, missing, "overcast", "cloud cover alone"},
-        Case{missing, 95, "thunderstorm", "weather alone"},
-        Case{9, 45, "fog", "a hidden sky yields to what hides it"},
-    };
-    for (const Case& each : cases)
-        EXPECT_EQ(text(each.n, each.ww, QStringLiteral("en")), QString::fromUtf8(each.sentence))
-            << each.why;
+    forEachLine("texts/sentences.tsv", [](const DataLine& line) {
+        EXPECT_EQ(text(static_cast<int>(line.integer(0)), static_cast<int>(line.integer(1)),
+                       QStringLiteral("en")),
+                  line[2]);
+    });
     EXPECT_EQ(MeteoMapping::stringForN({}, {}, QStringLiteral("en"), true), QStringLiteral("sunny"))
         << "an absent number counts as 0";
 }
@@ -183,18 +149,15 @@ TEST(WeatherTextsInAnotherDatabase, AMissingTableIsAskedAgainUntilItIsThere) {
 }
 
 TEST(MeteoDBDeathTest, WithoutAUsableFileNoTextIsFound) {
-    const QString nothing = testing::freshFolder();
+    const QString nothing = freshFolder();
     EXPECT_EXIT(lookUpIn(nothing), ::testing::ExitedWithCode(0), "");
 
-    const QString folderInPlace = testing::freshFolder();
+    const QString folderInPlace = freshFolder();
     QDir(folderInPlace).mkdir(QStringLiteral("meteoDB.sqlite"));
     EXPECT_EXIT(lookUpIn(folderInPlace), ::testing::ExitedWithCode(0), "failed to open sqlite db");
 
-    const QString noDatabase = testing::freshFolder();
-    QFile file(noDatabase + QStringLiteral("/meteoDB.sqlite"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray(100000, 'x'));
-    file.close();
+    const QString noDatabase = freshFolder();
+    overwrite(noDatabase + QStringLiteral("/meteoDB.sqlite"), QByteArray(100000, 'x'));
     EXPECT_EXIT(lookUpIn(noDatabase), ::testing::ExitedWithCode(0), "");
 }
 
@@ -220,7 +183,7 @@ TEST(MeteoDBDeathTest, IsNeverToBeDestroyed) {
 }
 
 TEST(MeteoDBDeathTest, APolarDayIsToldBeforeTheDatabaseIsTouched) {
-    const QString folder = testing::freshFolder();
+    const QString folder = freshFolder();
     QDir(folder).mkdir(QStringLiteral("meteoDB.sqlite"));
     EXPECT_EXIT(lookUpOnAPolarDay(folder), ::testing::ExitedWithCode(0), "^$");
 }
