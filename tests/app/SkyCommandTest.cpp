@@ -6,7 +6,7 @@
 
 #include "app/CommandLine.h"
 #include "foundation/Clock.h"
-#include "foundation/UserDefaults.h"
+#include "support/ChosenPlace.h"
 #include "support/DataLines.h"
 #include "support/TestHome.h"
 
@@ -87,21 +87,12 @@ TEST_F(SkyCommand, TodayAtThePanelsPlaceUnlessAsked) {
     // 2024-06-30 23:30 UTC: already July in both places.
     const ReplacedClock clock([] { return Instant::fromSecondsSince1970(1719790200.0); });
     EXPECT_TRUE(sky({}).out.startsWith(QStringLiteral("Berlin, 2024-07-01 (Europe/Berlin)\n")));
-    auto suite = UserDefaults::suite(QStringLiteral("group.Zephyrix"));
-    ASSERT_TRUE(suite);
-    QVariantMap place{{QStringLiteral("uid"), 7},
-                      {QStringLiteral("name"), QStringLiteral("Kiritimati")},
-                      {QStringLiteral("latitude"), 1.87},
-                      {QStringLiteral("longitude"), -157.4},
-                      {QStringLiteral("timezone"), QStringLiteral("Pacific/Kiritimati")}};
-    suite->set(QStringLiteral("location"), place);
-    ASSERT_TRUE(suite->synchronize());
+    choosePlace({{QStringLiteral("name"), QStringLiteral("Kiritimati")},
+                 {QStringLiteral("timezone"), QStringLiteral("Pacific/Kiritimati")}});
     EXPECT_TRUE(
         sky({}).out.startsWith(QStringLiteral("Kiritimati, 2024-07-01 (Pacific/Kiritimati)\n")));
-    place[QStringLiteral("timezone")] = QStringLiteral("No/Such");
-    suite->set(QStringLiteral("location"), place);
-    ASSERT_TRUE(suite->synchronize());
-    EXPECT_TRUE(sky({}).out.startsWith(QStringLiteral("Kiritimati, 2024-07-01 (Europe/Berlin)\n")));
+    choosePlace({{QStringLiteral("timezone"), QStringLiteral("No/Such")}});
+    EXPECT_TRUE(sky({}).out.startsWith(QStringLiteral("Berlin, 2024-07-01 (Europe/Berlin)\n")));
 }
 
 TEST_F(SkyCommand, TellsWhatItDoesNotUnderstand) {

@@ -211,14 +211,6 @@ TEST_F(ForecastCellTest, ADayThatEndsAfterwardsStaysUntilTheDaysAreGivenAgain) {
     EXPECT_EQ(columnsOf(stage->forecastCell()).first()->dayLabel()->text(), QStringLiteral("Tue"));
 }
 
-TEST_F(ForecastCellTest, ADayViewIsYellowWhenHighlighted) {
-    ForecastDayView view;
-    view.setHighlighted(true);
-    EXPECT_EQ(view.backgroundColor(), QColor(Qt::yellow));
-    view.setHighlighted(false);
-    EXPECT_EQ(view.backgroundColor().alpha(), 0);
-}
-
 TEST(ForecastCellDeathTest, StopsWithoutSettings) {
     EXPECT_DEATH(
         {

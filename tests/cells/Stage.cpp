@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <QApplication>
+#include <QJsonDocument>
 
 #include "cells/Registration.h"
 #include "foundation/Bundle.h"
@@ -18,12 +19,17 @@ namespace {
 constexpr double obsRowHeight = 110.0;
 constexpr double overviewRowHeight = 104.0;
 
-QVariantMap day(const char* date, int symbol, double tx, double tn) {
-    return {{QStringLiteral("date"), QString::fromLatin1(date)},
-            {QStringLiteral("symbol"), symbol},
-            {QStringLiteral("tx"), tx},
-            {QStringLiteral("tn"), tn}};
-}
+constexpr char showerJson[] = R"({
+    "place": {"uid": 12345, "name": "Berlin", "timezone": "Europe/Berlin",
+              "longitude": 13.38, "latitude": 52.53},
+    "observation": {"date": 1433152800, "symbol": 1421100, "tt": 14.2, "td": 9.1, "dd": 225,
+                    "ff": 10, "ffg": -9999, "rrr": 0.4, "rrrh": 1, "n": 5, "ww": 80, "ppp": 1013.2},
+    "days": [{"date": "2015-06-01", "symbol": 1421100, "tx": 14.2, "tn": 8.4},
+             {"date": "2015-06-02", "symbol": 520200, "tx": 11.0, "tn": 7.0},
+             {"date": "2015-06-03", "symbol": 300000, "tx": 12.4, "tn": 5.0},
+             {"date": "2015-06-04", "symbol": 1200000, "tx": 15.0, "tn": 6.0},
+             {"date": "2015-06-05", "symbol": 1000000, "tx": 18.0, "tn": 7.0},
+             {"date": "2015-06-06", "symbol": 1100000, "tx": 21.0, "tn": 11.0}]})";
 
 double prepareScreen(int width, double scale) {
     Screen::setMain(QRectF(0, 0, width, 400), scale);
@@ -34,23 +40,9 @@ double prepareScreen(int width, double scale) {
 }  // namespace
 
 Weather showerInBerlin() {
-    Weather weather;
-    weather.place = {{QStringLiteral("uid"), 12345},
-                     {QStringLiteral("name"), QStringLiteral("Berlin")},
-                     {QStringLiteral("timezone"), QStringLiteral("Europe/Berlin")},
-                     {QStringLiteral("longitude"), 13.38},
-                     {QStringLiteral("latitude"), 52.53}};
-    weather.observation = {
-        {QStringLiteral("date"), 1433152800}, {QStringLiteral("symbol"), 1421100},
-        {QStringLiteral("tt"), 14.2},         {QStringLiteral("td"), 9.1},
-        {QStringLiteral("dd"), 225},          {QStringLiteral("ff"), 10},
-        {QStringLiteral("ffg"), -9999},       {QStringLiteral("rrr"), 0.4},
-        {QStringLiteral("rrrh"), 1},          {QStringLiteral("n"), 5},
-        {QStringLiteral("ww"), 80},           {QStringLiteral("ppp"), 1013.2}};
-    weather.days = {day("2015-06-01", 1421100, 14.2, 8.4), day("2015-06-02", 520200, 11.0, 7.0),
-                    day("2015-06-03", 300000, 12.4, 5.0),  day("2015-06-04", 1200000, 15.0, 6.0),
-                    day("2015-06-05", 1000000, 18.0, 7.0), day("2015-06-06", 1100000, 21.0, 11.0)};
-    return weather;
+    const QVariantMap shower = QJsonDocument::fromJson(showerJson).toVariant().toMap();
+    return {shower[QStringLiteral("place")].toMap(), shower[QStringLiteral("observation")].toMap(),
+            shower[QStringLiteral("days")].toList()};
 }
 
 void useLanguage(const char* locale) {

@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include "AgedPanel.h"
-#include "TlsServer.h"
 
 namespace zephyrix {
 namespace {
@@ -86,9 +85,6 @@ TEST_F(ServerFaults, LeaveTheDocumentThatWasThere) {
         server_.answerWith(fault.answer);
         expectKept(before, report(), fault.what, fault.told);
     }
-    const TlsServer stranger(Certificate(QStringLiteral("IP:127.0.0.1"), 1), whole);
-    expectKept(before, reportFrom(stranger.baseAddress()), "certificate of nobody known",
-               "Transport error 6");
     server_.refuse();
     expectKept(before, report(), "refuses", "Transport error 1: Connection refused");
 

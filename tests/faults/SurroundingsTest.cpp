@@ -105,25 +105,6 @@ TEST_F(Surroundings, WithoutFontsItTellsAndGoesOn) {
     EXPECT_THAT(result.err.toStdString(), HasSubstr("no font is installed"));
 }
 
-struct Jump {
-    double seconds;  // that the clock has jumped forward since the fetch
-    int requests;
-    const char* shown;
-};
-
-TEST_F(Surroundings, ClockThatJumpedADayLosesNothing) {
-    constexpr double day = 86400.0;
-    for (const Jump& jump : {Jump{day, 1, "21°C"}, Jump{-day, 0, "7°C"}}) {
-        age(jump.seconds);
-        const auto before = server_.requestLines().size();
-        const auto result = report();
-        EXPECT_EQ(result.exitCode, 0);
-        EXPECT_THAT(result.out.toStdString(), HasSubstr(jump.shown));
-        EXPECT_EQ(server_.requestLines().size() - before, jump.requests);
-        EXPECT_EQ(troubles(result.err), QList<QByteArray>());
-    }
-}
-
 TEST_F(Surroundings, OtherUsersSeeNothingOfWhatItKeeps) {
     const auto all = QFile::ReadOther | QFile::ExeOther | QFile::ReadGroup | QFile::ExeGroup;
     const QStringList folders{panel_.home() + QStringLiteral("/config/zephyrix"),
@@ -145,18 +126,6 @@ TEST_F(Surroundings, OtherUsersSeeNothingOfWhatItKeeps) {
                 << entries.filePath().toStdString();
     }
     EXPECT_GE(count, 4) << "two settings files, a note, a folder";
-}
-
-TEST_F(Surroundings, PlainHttpOfAnotherMachineIsNotAskedFor) {
-    const QVariant before = document();
-    const auto result = reportFrom(QStringLiteral("http://0.0.0.0:1/"));
-    EXPECT_EQ(result.exitCode, 0);
-    EXPECT_THAT(result.out.toStdString(), HasSubstr("7°C"));
-    EXPECT_THAT(result.err.toStdString(), HasSubstr("http://0.0.0.0:1/ is not asked"));
-    EXPECT_EQ(document(), before);
-    const auto unencrypted =
-        panel_.run(QStringLiteral("--text --allow-plain-http --feed http://0.0.0.0:1/"));
-    EXPECT_THAT(unencrypted.err.toStdString(), HasSubstr("Transport error 1"));
 }
 
 TEST_F(Surroundings, LostDisplayEndsItWithOneLine) {

@@ -13,6 +13,7 @@
 #include "cells/Registration.h"
 #include "foundation/Clock.h"
 #include "host/AppearanceSchedule.h"
+#include "support/ChosenPlace.h"
 #include "support/DataLines.h"
 #include "support/Documents.h"
 #include "support/LoopbackServer.h"
@@ -40,10 +41,6 @@ class AppearanceScheduleTest : public ::testing::Test {
         UserDefaults::standard().set(QStringLiteral("showingAll"), true);
     }
 
-    static void choosePlace() {
-        UserDefaults::suite(QStringLiteral("group.Zephyrix"))
-            ->set(QStringLiteral("location"), LocationResult::defaultSearchResult().asDict());
-    }
     /// The stored document: fetched, and observed, at these times.
     static void store(Instant fetched, Instant observed) {
         auto document =

@@ -3,8 +3,7 @@
 #include <QProcessEnvironment>
 #include <gtest/gtest.h>
 
-#include "foundation/UserDefaults.h"
-#include "model/LocationResult.h"
+#include "support/ChosenPlace.h"
 #include "support/LoopbackServer.h"
 #include "support/TestHome.h"
 
@@ -29,14 +28,11 @@ Outcome PanelProgram::run(const QStringList& arguments) {
 }
 
 void PanelProgram::choosePlace(qlonglong id) const {
-    QVariantMap place = LocationResult::defaultSearchResult().asDict();
-    if (id != 0)
-        place.insert(QStringLiteral("uid"), id);
-    UserDefaults::suite(QStringLiteral("group.Zephyrix"))->set(QStringLiteral("location"), place);
+    testing::choosePlace(id == 0 ? QVariantMap() : QVariantMap{{QStringLiteral("uid"), id}});
 }
 
 QVariant PanelProgram::sharedSetting(const QString& key) const {
-    return UserDefaults::suite(QStringLiteral("group.Zephyrix"))->object(key);
+    return sharedSettings()->object(key);
 }
 
 QVariant PanelProgram::setting(const QString& key) const {

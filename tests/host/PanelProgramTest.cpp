@@ -65,12 +65,6 @@ TEST_F(PanelProgramTest, ShowsTheFetchedWeatherAndASecondStartAsksForNothing) {
     EXPECT_EQ(temperature(second), temperature(first));
     EXPECT_EQ(second.json()[QLatin1String("rows")].toArray().size(), 1) << "--expanded is not kept";
     EXPECT_EQ(server_.requestLines().size(), 1);
-
-    QVariantMap document = panel_.setting(documentKey).toMap();
-    document.insert(QStringLiteral("insertDtg"), Clock::now().addingSeconds(-601).toDateTime());
-    panel_.setSetting(documentKey, document);
-    run(QStringLiteral("--json"));
-    EXPECT_EQ(server_.requestLines().size(), 2);
 }
 
 TEST_F(PanelProgramTest, FeedServerOfTheSettingsIsUsed) {
@@ -107,21 +101,6 @@ TEST_F(PanelProgramTest, NamesWhoTellsTheWeatherAlsoAfterANewStart) {
         EXPECT_EQ(report[QLatin1String("fetched")], QStringLiteral("2026-06-01"));
     }
     EXPECT_EQ(server_.requestLines().size(), 1);
-}
-
-TEST_F(PanelProgramTest, DocumentThatStopsTheProcessDoesSoOnce) {
-    panel_.choosePlace();
-    const QVariantMap bad{{QStringLiteral("uid"), 18228265}};
-    panel_.setSetting(documentKey, bad);
-    const auto first = run(QStringLiteral("--text"));
-    EXPECT_EQ(first.exitCode, -1);
-    EXPECT_THAT(first.err.toStdString(), HasSubstr("fatal error: "));
-
-    const auto second = run(QStringLiteral("--json"));
-    EXPECT_EQ(second.exitCode, 0) << second.err.toStdString();
-    EXPECT_THAT(second.err.toStdString(), HasSubstr("lastWeatherData.rejected"));
-    EXPECT_THAT(temperature(second).toStdString(), HasSubstr("21"));
-    EXPECT_EQ(panel_.setting(QStringLiteral("lastWeatherData.rejected")), bad);
 }
 
 TEST_F(PanelProgramTest, PictureHasTheSizeThatWasAskedFor) {

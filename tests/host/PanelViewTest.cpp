@@ -15,6 +15,7 @@
 #include "host/PanelPopup.h"
 #include "host/PanelView.h"
 #include "host/PanelWindow.h"
+#include "support/ChosenPlace.h"
 #include "support/Documents.h"
 #include "support/TestHome.h"
 
@@ -29,8 +30,7 @@ class PanelViewTest : public ::testing::Test {
         qputenv("XDG_CONFIG_HOME", freshFolder().toUtf8());
         qputenv("XDG_CACHE_HOME", freshFolder().toUtf8());
         registerCells();
-        UserDefaults::suite(QStringLiteral("group.Zephyrix"))
-            ->set(QStringLiteral("location"), LocationResult::defaultSearchResult().asDict());
+        choosePlace();
         UserDefaults::standard().set(QStringLiteral("showingAll"), true);
         controller_ = std::make_unique<TodayViewController>([](const auto&) {});
         view_ = std::make_unique<PanelView>(*controller_);
@@ -54,14 +54,6 @@ TEST_F(PanelViewTest, SymbolsHaveThePixelsOfTheScreen) {
         const ImageView* symbol = row<ObsCell>(0)->symbol();
         EXPECT_EQ(symbol->image().devicePixelRatio(), scale);
         EXPECT_EQ(symbol->image().width(), qRound(symbol->width() * scale));
-    }
-}
-
-TEST_F(PanelViewTest, NarrowerPanelHasFewerDays) {
-    for (const auto& [width, days] : {std::pair(440, 5), std::pair(400, 4), std::pair(360, 3)}) {
-        view_->layOut(width, 1.0);
-        EXPECT_EQ(row<ForecastCell>(1)->container()->findChildren<ForecastDayView*>().size(), days)
-            << width << " points";
     }
 }
 

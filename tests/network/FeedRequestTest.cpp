@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QPointer>
@@ -21,22 +20,6 @@ using namespace std::chrono_literals;
 using namespace zephyrix::testing;
 
 constexpr qint64 mebibyte = 1024 * 1024;
-
-/// Forgets what peakMemory() has seen so far.
-void resetPeakMemory() {
-    QFile peak(QStringLiteral("/proc/self/clear_refs"));
-    EXPECT_TRUE(peak.open(QIODevice::WriteOnly) && peak.write("5") == 1);
-}
-
-/// The most memory that the process has held, in bytes.
-qint64 peakMemory() {
-    QFile status(QStringLiteral("/proc/self/status"));
-    EXPECT_TRUE(status.open(QIODevice::ReadOnly));
-    for (const QByteArray& line : status.readAll().split('\n'))
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).simplified().split(' ').first().toLongLong() * 1024;
-    return 0;
-}
 
 class FeedRequestTest : public ::testing::Test {
   protected:
@@ -154,7 +137,8 @@ TEST_F(FeedRequestTest, EachByteEndsASilence) {
     EXPECT_GE(watch.elapsed(), 1000);
 }
 
-TEST_F(FeedRequestTest, MemoryStaysBounded) {
+// What memory an endless answer takes is measured at the panel.
+TEST_F(FeedRequestTest, BodyEndsAtItsLimitAlsoUnpacked) {
     limits_.bytes = 2 * mebibyte;
     const QByteArray most(limits_.bytes, ' ');
     server_.answerWith(answerBody(most));
@@ -163,19 +147,6 @@ TEST_F(FeedRequestTest, MemoryStaysBounded) {
     EXPECT_EQ(fetch().body.size(), most.size()) << "compressed";
     server_.answerWith(answerBody(most + ' '));
     expectTransportError("one byte more than the limit");
-
-    const LoopbackServer::Answer bomb = answerCompressedZeros(100 * mebibyte);
-    resetPeakMemory();
-    const qint64 before = peakMemory();
-    server_.answerWith(answerManyBytes(100 * mebibyte));
-    expectTransportError("100 MiB");
-    server_.answerWith(bomb);
-    expectTransportError("100 MiB in 100 KiB");
-    const qint64 grown = peakMemory() - before;
-    std::printf("memory grown by %.1f MiB\n", static_cast<double>(grown) / mebibyte);
-#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)  // they keep freed memory
-    EXPECT_LT(grown, 16 * mebibyte);
-#endif
 }
 
 TEST_F(FeedRequestTest, DestroyedWhileItWaitsItClosesTheConnectionAndStaysSilent) {

@@ -21,6 +21,7 @@
 #include "host/PanelDisplay.h"
 #include "host/ToldWakeSource.h"
 #include "meteo/MeteoMapping.h"
+#include "support/ChosenPlace.h"
 #include "support/Documents.h"
 #include "support/LoopbackServer.h"
 #include "support/TestHome.h"
@@ -87,14 +88,11 @@ class Soak : public ::testing::Test {
     ~Soak() override { display_.letGo(); }
 
     static void choose(const Place& place) {
-        QVariantMap location = LocationResult::defaultSearchResult().asDict();
-        location.insert(QStringLiteral("name"), QLatin1String(place.name));
-        location.insert(QStringLiteral("latitude"), place.latitude);
-        location.insert(QStringLiteral("longitude"), place.longitude);
-        location.insert(QStringLiteral("timezone"), QLatin1String(place.zone));
-        location.insert(QStringLiteral("uid"), static_cast<int>(1000 + place.latitude));
-        UserDefaults::suite(QStringLiteral("group.Zephyrix"))
-            ->set(QStringLiteral("location"), location);
+        choosePlace({{QStringLiteral("name"), QLatin1String(place.name)},
+                     {QStringLiteral("latitude"), place.latitude},
+                     {QStringLiteral("longitude"), place.longitude},
+                     {QStringLiteral("timezone"), QLatin1String(place.zone)},
+                     {QStringLiteral("uid"), static_cast<int>(1000 + place.latitude)}});
     }
 
     /// As the host does at its start and for another place.
@@ -143,10 +141,7 @@ class Soak : public ::testing::Test {
         live_->controller().didPressButton(live_->controller().moreButton());
         live_->view().grab();
     }
-    void changeUnits(int day) {
-        UserDefaults::suite(QStringLiteral("group.Zephyrix"))
-            ->set(QStringLiteral("temperature"), day % 3);
-    }
+    void changeUnits(int day) { sharedSettings()->set(QStringLiteral("temperature"), day % 3); }
     /// The same hours each day, so that the first day has seen every symbol there is.
     void liveThroughADay(int day) {
         for (int h = 0; h < 24; ++h) {

@@ -10,7 +10,6 @@
 #include "meteo/MeteoMapping.h"
 #include "model/LocationResult.h"
 #include "support/DataLines.h"
-#include "support/Files.h"
 #include "support/TestHome.h"
 
 namespace zephyrix {
@@ -140,25 +139,6 @@ TEST(WeatherTextsInAnotherDatabase, AMissingTableIsAskedAgainUntilItIsThere) {
     sqlite3_exec(connection, "INSERT INTO t_list_mapping VALUES (2910, 0, 0, 'here', 1);", nullptr,
                  nullptr, nullptr);
     EXPECT_EQ(text(0, 0, QStringLiteral("en")), QStringLiteral("here"));
-}
-
-/// Looks a text up in a process of its own whose data folder was prepared; ends with 0 for no text.
-[[noreturn]] void lookUpIn(const QString& dataFolder) {
-    Bundle::main().setDataDirectory(dataFolder);
-    std::_Exit(text(0, 0, QStringLiteral("en")).has_value() ? 1 : 0);
-}
-
-TEST(MeteoDBDeathTest, WithoutAUsableFileNoTextIsFound) {
-    const QString nothing = freshFolder();
-    EXPECT_EXIT(lookUpIn(nothing), ::testing::ExitedWithCode(0), "");
-
-    const QString folderInPlace = freshFolder();
-    QDir(folderInPlace).mkdir(QStringLiteral("meteoDB.sqlite"));
-    EXPECT_EXIT(lookUpIn(folderInPlace), ::testing::ExitedWithCode(0), "failed to open sqlite db");
-
-    const QString noDatabase = freshFolder();
-    overwrite(noDatabase + QStringLiteral("/meteoDB.sqlite"), QByteArray(100000, 'x'));
-    EXPECT_EXIT(lookUpIn(noDatabase), ::testing::ExitedWithCode(0), "");
 }
 
 TEST(MeteoDBDeathTest, IsNeverToBeDestroyed) {

@@ -43,16 +43,6 @@ TEST(Nib, OutletsComeBeforeAwakeningAndChildrenBeforeParents) {
               QStringLiteral("child outlets,root outlets,child awake,root awake"));
 }
 
-TEST(Nib, EachInstanceIsItsOwn) {
-    const Nib nib = nibOf(
-        "<widget class=\"TableCell\" name=\"cell\"><widget class=\"Label\" "
-        "name=\"textLabel\"/></widget>");
-    const std::unique_ptr<TableCell> first(nib.instantiate<TableCell>(nullptr));
-    const std::unique_ptr<TableCell> second(nib.instantiate<TableCell>(nullptr));
-    ASSERT_NE(first->textLabel(), nullptr);
-    EXPECT_NE(first->textLabel(), second->textLabel());
-}
-
 // Each kind of value, layout and item that the shipped layouts use.
 TEST(Nib, ViewsAreAsDescribed) {
     const Nib nib(QStringLiteral("Test"), testing::dataFile(QStringLiteral("ui/each_kind.ui")));

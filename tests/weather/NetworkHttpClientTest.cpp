@@ -54,78 +54,59 @@ TEST(NetworkHttpClient, SendsAndReceivesHeadersAsTheyStand) {
     EXPECT_FALSE(sent.has_header("Cookie") || sent.has_header("Cache-Control"));
 }
 
+void expectOutcome(const char* why, FakeService::Answer answer, const std::string& expected) {
+    const FakeService service(std::move(answer));
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(outcome(service.address()), expected) << why;
+    EXPECT_LT(timer.elapsed(), 5000) << why;
+}
+
+/// What the server compresses for itself.
+FakeService::Answer zeros(std::size_t count) {
+    return [=](const Request&, Response& response) {
+        response.set_content(std::string(count, '0'), "application/json");
+    };
+}
+
+FakeService::Answer redirect(const std::string& to) {
+    return [=](const Request& request, Response& response) {
+        if (request.path == "/there")
+            response.set_content("there", "text/plain");
+        else
+            response.set_redirect(to);
+    };
+}
+
 TEST(NetworkHttpClient, BearsEveryKindOfAnswer) {
-    struct Case {
-        const char* why;
-        FakeService::Answer answer;
-        const char* outcome;
-    };
-    const auto status = [](int code, const char* body) {
-        return [=](const Request&, Response& response) {
-            response.status = code;
-            response.set_content(body, "application/json");
+    for (const int status : {200, 203, 400, 403, 404, 429, 503}) {
+        const auto answer = [=](const Request&, Response& response) {
+            response.status = status;
+            response.set_content(R"({"reason"})", "application/json");
         };
-    };
-    for (const Case& c : {
-             Case{"fine", status(200, "{}"), "200 {}"},
-             Case{"deprecated", status(203, "{}"), "203 {}"},
-             Case{"an error with its reason", status(400, "{\"reason\"}"), "400 {\"reason\"}"},
-             Case{"forbidden", status(403, "no"), "403 no"},
-             Case{"not there", status(404, "no"), "404 no"},
-             Case{"too many", status(429, "no"), "429 no"},
-             Case{"down", status(503, "no"), "503 no"},
-             Case{"compressed",
-                  [](const Request&, Response&response) {  // the server compresses it for itself
-                      response.set_content(std::string(50'000, '0'), "application/json");
-                  },
-                  "200 00000000000000000000"},
-             Case{"too large only when unpacked",
-                  [](const Request&, Response&response) {
-                      response.set_content(std::string(100'001, '0'), "application/json");
-                  },
-                  "failure"},
-             Case{"one redirect",
-                  [](const Request&request, Response&response) {
-                      if (request.path == "/")
-                          response.set_redirect("/there");
-                      else
-                          response.set_content("there", "text/plain");
-                  },
-                  "200 there"},
-             Case{"redirects without end",
-                  [](const Request&, Response&response) { response.set_redirect("/again"); },
-                  "failure"},
-             Case{"to a file",
-                  [](const Request&, Response&response) {
-                      response.set_redirect("file:///etc/hostname");
-                  },
-                  "failure"},
-             Case{"a trickle past the deadline",
-                  [](const Request&, Response&response) {
-                      response.set_chunked_content_provider(
-                          "text/plain", [](std::size_t, httplib::DataSink& sink) {
-                              std::this_thread::sleep_for(20ms);
-                              return sink.write("0", 1);
-                          });
-                  },
-                  "failure"},
-             Case{"broken off",
-                  [](const Request&, Response&response) {
-                      response.set_content_provider(
-                          1000, "text/plain",
-                          [](std::size_t, std::size_t, httplib::DataSink& sink) {
-                              sink.write("0", 1);
-                              return false;
-                          });
-                  },
-                  "failure"},
-         }) {
-        const FakeService service(c.answer);
-        QElapsedTimer timer;
-        timer.start();
-        EXPECT_EQ(outcome(service.address()), c.outcome) << c.why;
-        EXPECT_LT(timer.elapsed(), 5000) << c.why;
+        expectOutcome("a status", answer, std::to_string(status) + R"( {"reason"})");
     }
+    expectOutcome("compressed", zeros(50'000), "200 00000000000000000000");
+    expectOutcome("too large only when unpacked", zeros(100'001), "failure");
+    expectOutcome("one redirect", redirect("/there"), "200 there");
+    expectOutcome("redirects without end", redirect("/again"), "failure");
+    expectOutcome("to a file", redirect("file:///etc/hostname"), "failure");
+    const auto drip = [](std::size_t, httplib::DataSink& sink) {
+        std::this_thread::sleep_for(20ms);
+        return sink.write("0", 1);
+    };
+    const auto trickle = [&](const Request&, Response& response) {
+        response.set_chunked_content_provider("text/plain", drip);
+    };
+    expectOutcome("a trickle past the deadline", trickle, "failure");
+    const auto breakOff = [](std::size_t, std::size_t, httplib::DataSink& sink) {
+        sink.write("0", 1);
+        return false;
+    };
+    const auto broken = [&](const Request&, Response& response) {
+        response.set_content_provider(1000, "text/plain", breakOff);
+    };
+    expectOutcome("broken off", broken, "failure");
     QUrl gone;
     gone = FakeService([](const Request&, Response&) {}).address();
     EXPECT_EQ(outcome(gone), "failure");

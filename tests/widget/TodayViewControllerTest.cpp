@@ -11,6 +11,7 @@
 #include "cells/ObsCell.h"
 #include "cells/Registration.h"
 #include "foundation/Clock.h"
+#include "support/ChosenPlace.h"
 #include "support/Documents.h"
 #include "support/LoopbackServer.h"
 #include "support/TestHome.h"
@@ -48,13 +49,6 @@ class TodayViewControllerTest : public ::testing::Test {
     }
 
     static UserDefaults& local() { return UserDefaults::standard(); }
-    static void store(const QString& key, const QVariant& value) {
-        const auto shared = UserDefaults::suite(QStringLiteral("group.Zephyrix"));
-        shared->set(key, value);
-    }
-    static void choosePlace() {
-        store(locationKey, LocationResult::defaultSearchResult().asDict());
-    }
     static QVariantMap observation() {
         const auto document = FeedAnswer::fromBody(feedDocument(14.0, noon), Number(1)).document;
         return document.obs->asDict();
@@ -207,26 +201,6 @@ TEST_F(TodayViewControllerTest, AdoptsOnlyAValidDocumentOfItsPlace) {
     }
 }
 
-TEST_F(TodayViewControllerTest, ErrorKeepsTheDocumentOnScreenAndInTheStore) {
-    choosePlace();
-    local().set(documentKey, cached());
-    const QVariant before = local().object(documentKey);
-    now_ = noon.addingSeconds(601);
-    start();
-    const std::array answers{answerBody("<html>Not found</html>", 404), answerBody("oops", 500),
-                             answerBody("[[[", 200), answerRaw("HTTP/1.1 200 OK\r\nContent-Len"),
-                             answerRaw("HTTP/1.1 200 OK\r\nContent-Length: 9999\r\n\r\n{}")};
-    for (const auto& answer : answers) {
-        server_.answerWith(answer);
-        appear();
-        EXPECT_EQ(local().object(documentKey), before);
-        EXPECT_THAT(row<ObsCell>(0)->detailLabel1()->text().toStdString(), HasSubstr("14"));
-    }
-    server_.answerWith(answerBody(feedDocument(30.0, now_)));
-    appear();
-    EXPECT_THAT(row<ObsCell>(0)->detailLabel1()->text().toStdString(), HasSubstr("30"));
-}
-
 TEST_F(TodayViewControllerTest, DocumentWithoutObservationIsShownAndStopsTheNextStart) {
     choosePlace();
     server_.answerWith(answerBody(R"({"forecast": {"days": {"day": []}}})"));
@@ -251,7 +225,7 @@ TEST_F(TodayViewControllerTest, ValidDocumentAndPlaceMustHaveAUid) {
     local().set(documentKey, cached());
     QVariantMap place = LocationResult::defaultSearchResult().asDict();
     place.remove(QStringLiteral("uid"));
-    store(locationKey, place);
+    sharedSettings()->set(locationKey, place);
     EXPECT_DEATH(start(), "fatal error: .*\"uid\"");
 
     local().remove(documentKey);
@@ -262,10 +236,11 @@ TEST_F(TodayViewControllerTest, ValidDocumentAndPlaceMustHaveAUid) {
 }
 
 TEST_F(TodayViewControllerTest, PlaceWithWrongTypesIsUsedAsFarAsItGoes) {
-    store(locationKey, QVariantMap{{QStringLiteral("uid"), QStringLiteral("77 or so")},
-                                   {QStringLiteral("name"), 5},
-                                   {QStringLiteral("latitude"), QVariantList{1}},
-                                   {QStringLiteral("timezone"), QStringLiteral("Mars/Olympus")}});
+    sharedSettings()->set(
+        locationKey, QVariantMap{{QStringLiteral("uid"), QStringLiteral("77 or so")},
+                                 {QStringLiteral("name"), 5},
+                                 {QStringLiteral("latitude"), QVariantList{1}},
+                                 {QStringLiteral("timezone"), QStringLiteral("Mars/Olympus")}});
     start();
     appear();
     EXPECT_THAT(server_.requestLines().value(0).toStdString(), HasSubstr("lid=77&"));
@@ -300,7 +275,7 @@ TEST_F(TodayViewControllerTest, ButtonExpandsAndCollapses) {
 
 TEST_F(TodayViewControllerTest, MarksTheWidgetAsInstalledOnce) {
     start();
-    auto shared = UserDefaults::suite(QStringLiteral("group.Zephyrix"));
+    auto shared = sharedSettings();
     EXPECT_TRUE(shared->boolean(QStringLiteral("widgetInstalled")));
     const QString file = shared->fileName();
     shared.reset();
