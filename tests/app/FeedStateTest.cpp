@@ -1,6 +1,7 @@
 #include <array>
 
 #include <QDateTime>
+#include <QJsonDocument>
 #include <gtest/gtest.h>
 
 #include "app/FeedState.h"
@@ -45,31 +46,15 @@ TEST(FeedState, WithoutADocumentOfThePlaceThereIsNoWeather) {
 }
 
 TEST(FeedState, NamesSourceAndLicenceWhereverTheFeedPutThem) {
-    const QVariantMap both{{QStringLiteral("name"), QStringLiteral("A service")},
-                           {QStringLiteral("licence"), QStringLiteral("CC BY 4.0")}};
-    const QVariantMap demonstration{{QStringLiteral("source"), QStringLiteral("demonstration")}};
-    struct Case {
-        QVariantMap document;
-        const char* source;
-        const char* licence;
-    };
-    const std::array cases{
-        Case{document(both), "A service", "CC BY 4.0"},
-        Case{document(both, demonstration), "A service", "CC BY 4.0"},
-        Case{document(QStringLiteral("A name")), "A name", ""},
-        Case{document({}, demonstration), "Demonstration weather", ""},
-        Case{document({}, {{QStringLiteral("source"), QStringLiteral("A service")},
-                           {QStringLiteral("licence"), QStringLiteral("NLOD")}}),
-             "A service", "NLOD"},
-        Case{document(), "", ""},
-        Case{document(QVariantList{1, 2}), "", ""},
-        Case{document(QVariantMap{{QStringLiteral("name"), 5}}), "5", ""},
-    };
-    for (const Case& aCase : cases) {
-        const FeedState state = feedState(aCase.document, Number(7), Instant());
-        EXPECT_EQ(state.source, QLatin1String(aCase.source));
-        EXPECT_EQ(state.licence, QLatin1String(aCase.licence));
-    }
+    testing::forEachLine("app/sources.tsv", [](const testing::DataLine& line) {
+        const QByteArray json = "[" + line.utf8(0) + "," + line.utf8(1) + "]";
+        const QVariantList parts = QJsonDocument::fromJson(json).toVariant().toList();
+        ASSERT_EQ(parts.size(), 2);
+        const QVariant source = parts[0].isNull() ? QVariant() : parts[0];
+        const FeedState state = feedState(document(source, parts[1].toMap()), Number(7), Instant());
+        EXPECT_EQ(state.source, line[2]);
+        EXPECT_EQ(state.licence, line[3]);
+    });
 }
 
 }  // namespace

@@ -27,6 +27,14 @@ bool isAmber(QRgb pixel) {
     return qAlpha(pixel) == 255 && qRed(pixel) > 245 && qGreen(pixel) > 145 && qBlue(pixel) < 130;
 }
 
+// Pixels on the edge of a master of more than this alpha: a picture that is cut.
+int inkedEdgePixels(const QImage& image, int alpha) {
+    return countPixels(image, [=](int x, int y, QRgb pixel) {
+        const bool edge = x == 0 || y == 0 || x == kMasterSize - 1 || y == kMasterSize - 1;
+        return edge && qAlpha(pixel) > alpha;
+    });
+}
+
 // The most of an image that a reader can tell from the ground: pixels of at least this contrast.
 int visiblePixels(const QImage& image, const QColor& ground, double least) {
     return countPixels(image, [&](int, int, QRgb pixel) {
@@ -57,11 +65,7 @@ TEST(Artwork, ImagesAreWholeSquareAndNotCutByTheirEdges) {
             const QImage image = set.image(name);
             ASSERT_EQ(image.size(), QSize(kMasterSize, kMasterSize));
             EXPECT_GT(inkOf(image), 250.0) << "too little to be seen";
-            const int atTheEdge = countPixels(image, [](int x, int y, QRgb pixel) {
-                const bool edge = x == 0 || y == 0 || x == kMasterSize - 1 || y == kMasterSize - 1;
-                return edge && qAlpha(pixel) > 8;
-            });
-            EXPECT_EQ(atTheEdge, 0);
+            EXPECT_EQ(inkedEdgePixels(image, 8), 0);
         }
 }
 
@@ -129,11 +133,7 @@ TEST(Artwork, ComposedSymbolsAreNotCutByTheirCanvas) {
     symbols.setWinscale(3);
     for (const std::uint32_t code : everySymbolCode()) {
         const QImage symbol = symbols.symbolForCode(Number(qint64(code)), QSizeF(80, 80));
-        const int atTheEdge = countPixels(symbol, [](int x, int y, QRgb pixel) {
-            const bool edge = x == 0 || y == 0 || x == kMasterSize - 1 || y == kMasterSize - 1;
-            return edge && qAlpha(pixel) > 24;
-        });
-        EXPECT_EQ(atTheEdge, 0) << code;
+        EXPECT_EQ(inkedEdgePixels(symbol, 24), 0) << code;
         EXPECT_GT(inkOf(symbol), 1500.0) << code << " is hardly there";
     }
 }

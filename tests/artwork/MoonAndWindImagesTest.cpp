@@ -1,4 +1,3 @@
-#include <array>
 #include <cmath>
 #include <cstdio>
 
@@ -6,6 +5,7 @@
 
 #include "SymbolSet.h"
 #include "support/Contrast.h"
+#include "support/DataLines.h"
 
 using namespace zephyrix::testing;
 
@@ -54,31 +54,20 @@ SymbolSet catalogue() {
 }  // namespace
 
 TEST(MoonImages, LitPartLiesInItsPhasesRangeAndOnItsSide) {
-    struct Phase {
-        double least, most;  // lit part for which this image is asked
-        int side;            // +1 right, waxing; -1 left, waning; 0 both
-        const char* name;
-    };
-    constexpr std::array<Phase, 8> phases{{{0.0, 0.03, 0, "new"},
-                                           {0.03, 0.375, +1, "waxing crescent"},
-                                           {0.375, 0.625, +1, "first quarter"},
-                                           {0.625, 0.97, +1, "waxing gibbous"},
-                                           {0.97, 1.0, 0, "full"},
-                                           {0.625, 0.97, -1, "waning gibbous"},
-                                           {0.375, 0.625, -1, "last quarter"},
-                                           {0.03, 0.375, -1, "waning crescent"}}};
     double worst = 0;
     for (const SymbolSet& set : symbolSets())
-        for (std::size_t i = 0; i < phases.size(); ++i) {
-            const auto& [least, most, side, name] = phases[i];
-            const Light light = lightOf(set, int(i) + 1);
-            SCOPED_TRACE(set.folder.toStdString() + " " + name);
-            const double middle = side == 0 ? (least < 0.5 ? 0 : 1) : (least + most) / 2;
+        forEachLine("artwork/moons.tsv", [&](const DataLine& line) {
+            SCOPED_TRACE(set.folder.toStdString());
+            const Light light = lightOf(set, static_cast<int>(line.integer(0)));
+            const double side = line.number(3);
+            const double middle = side != 0              ? (line.number(1) + line.number(2)) / 2
+                                  : line.number(1) < 0.5 ? 0
+                                                         : 1;
             EXPECT_NEAR(light.part, middle, 0.03);
             EXPECT_TRUE(side == 0 ? std::abs(light.right) < 0.02 : light.right * side > 0.05)
                 << "lies " << light.right << " radii to the right";
             worst = std::max(worst, std::abs(light.part - middle));
-        }
+        });
     std::printf("worst lit part off the middle of its range: %.4f\n", worst);
 }
 
@@ -103,20 +92,10 @@ TEST(WindImages, UnturnedArrowPointsDownWithItsDotOnTop) {
 }
 
 TEST(WindImages, InkStandsOutFromItsGround) {
-    struct Case {
-        const char* name;
-        QColor ground;
-        double least;
-    };
-    constexpr QColor dark(22, 28, 40);
-    constexpr QColor light(250, 251, 253);
-    for (const Case& row :
-         {Case{"WindPfeilSquare", dark, 3}, Case{"WindPfeilSquare", light, 3},
-          Case{"WindPfeilSquare-dark", dark, 12}, Case{"WindPfeilSquare-light", light, 12},
-          Case{"WindLabelSquare-dark", dark, 1.5}, Case{"WindLabelSquare-light", light, 1.5}}) {
-        const QImage image = catalogue().image(QLatin1String(row.name));
-        const QColor ink = over(row.ground, image.pixelColor(120, 20));
-        EXPECT_GE(contrast(ink, row.ground), row.least) << row.name;
-        std::printf("%-24s %.1f : 1\n", row.name, contrast(ink, row.ground));
-    }
+    forEachLine("artwork/wind_inks.tsv", [](const DataLine& line) {
+        const QColor ground = line[1] == u"dark" ? QColor(22, 28, 40) : QColor(250, 251, 253);
+        const QColor ink = over(ground, catalogue().image(line[0]).pixelColor(120, 20));
+        EXPECT_GE(contrast(ink, ground), line.number(2));
+        std::printf("%-24s %.1f : 1\n", qPrintable(line[0]), contrast(ink, ground));
+    });
 }

@@ -8,6 +8,7 @@
 #include "Stage.h"
 #include "foundation/Clock.h"
 #include "foundation/Screen.h"
+#include "support/DataLines.h"
 #include "support/ScopedEnvironment.h"
 
 namespace zephyrix {
@@ -52,33 +53,20 @@ class ForecastCellTest : public ::testing::Test {
     std::unique_ptr<Stage> stage;
 };
 
-struct WidthCase {
-    int width;
-    int columns;
-    QList<int> left;
-    int columnWidth;
-};
-
 TEST_F(ForecastCellTest, ColumnsFillTheWidthAsTheScreenAllows) {
-    const QList<WidthCase> cases = {
-        {320, 3, {0, 107, 213}, 107},         {375, 3, {0, 125, 250}, 125},
-        {376, 4, {0, 94, 188, 282}, 94},      {414, 4, {0, 104, 207, 311}, 104},
-        {415, 5, {0, 83, 166, 249, 332}, 83}, {600, 5, {0, 120, 240, 360, 480}, 120},
-    };
-    for (const WidthCase& expected : cases) {
-        const ForecastCell* cell = cellOn(expected.width);
-        const auto columns = columnsOf(cell);
-        ASSERT_EQ(columns.size(), expected.columns) << expected.width;
-        for (int index = 0; index < expected.columns; ++index) {
+    forEachLine("cells/columns.tsv", [this](const DataLine& line) {
+        const auto columns = columnsOf(cellOn(static_cast<int>(line.integer(0))));
+        const QStringList left = line[1].split(QLatin1Char(' '));
+        ASSERT_EQ(columns.size(), left.size());
+        for (int index = 0; index < columns.size(); ++index) {
             const ForecastDayView* column = columns.at(index);
             EXPECT_EQ(column->geometry(),
-                      QRect(expected.left.at(index), 0, expected.columnWidth, 104))
-                << expected.width << ", column " << index;
-            EXPECT_EQ(column->separator()->isHidden(), index == expected.columns - 1);
+                      QRect(left[index].toInt(), 0, static_cast<int>(line.integer(2)), 104));
+            EXPECT_EQ(column->separator()->isHidden(), index == columns.size() - 1);
             EXPECT_EQ(column->tag(), 65280 + index);
             EXPECT_EQ(column->backgroundColor().alpha(), 0);
         }
-    }
+    });
 }
 
 TEST_F(ForecastCellTest, FewerDaysThanColumnsKeepTheScreensWidth) {

@@ -4,6 +4,7 @@
 
 #include "cells/QKWindpfeil.h"
 #include "foundation/UserDefaults.h"
+#include "support/DataLines.h"
 #include "ui/Motion.h"
 #include "ui/NotificationQueue.h"
 #include "ui/ScreenReader.h"
@@ -13,7 +14,7 @@ namespace {
 
 constexpr QRect frame{10, 20, 100, 60};
 
-class QKWindpfeilTest : public testing::Test {
+class QKWindpfeilTest : public ::testing::Test {
   protected:
     void SetUp() override { Motion::setReduced(false); }
     void TearDown() override { Motion::setReduced(std::nullopt); }
@@ -60,20 +61,13 @@ TEST_F(QKWindpfeilTest, AReplacementTakesTheOldViewsPlace) {
     EXPECT_EQ(view.children(), children);
 }
 
-struct SpeedCase {
-    const char* text;
-    std::int64_t number;
-};
-
 TEST_F(QKWindpfeilTest, TheSpeedTextIsReadAsA32BitInteger) {
-    for (const auto& [text, number] :
-         {SpeedCase{"19", 19}, SpeedCase{"-", 0}, SpeedCase{"12 kn", 12}, SpeedCase{"-5", -5},
-          SpeedCase{"99999999999", 2147483647}}) {
-        view.setWindSpeed(QString::fromLatin1(text));
-        EXPECT_EQ(view.windSpeedLabel()->text(), QString::fromLatin1(text));
-        EXPECT_EQ(view.windSpeedLabel()->accessibleName(), QString::fromLatin1(text));
-        EXPECT_EQ(view.numSpeed()->integerValue(), number) << text;
-    }
+    testing::forEachLine("cells/speeds.tsv", [this](const testing::DataLine& line) {
+        view.setWindSpeed(line[0]);
+        EXPECT_EQ(view.windSpeedLabel()->text(), line[0]);
+        EXPECT_EQ(view.windSpeedLabel()->accessibleName(), line[0]);
+        EXPECT_EQ(view.numSpeed()->integerValue(), line.integer(1));
+    });
 }
 
 TEST_F(QKWindpfeilTest, UnitsComeFromTheProgramsOwnStore) {

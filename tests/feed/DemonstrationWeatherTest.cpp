@@ -5,9 +5,12 @@
 #include "feed/DemonstrationAtmosphere.h"
 #include "feed/DemonstrationWeather.h"
 #include "foundation/TimeZone.h"
+#include "support/DataLines.h"
 
 namespace zephyrix {
 namespace {
+
+using namespace zephyrix::testing;
 
 using State = DemonstrationAtmosphere::State;
 
@@ -17,8 +20,8 @@ Place placeAt(double latitude, double longitude, const char* zone) {
 
 const Place berlin = placeAt(52.53, 13.38, "Europe/Berlin");
 
-Instant at(const char* utc) {
-    return Instant::fromDateTime(QDateTime::fromString(QString::fromLatin1(utc), Qt::ISODate));
+Instant at(const QString& utc) {
+    return Instant::fromDateTime(QDateTime::fromString(utc, Qt::ISODate));
 }
 
 Weather weatherAt(const Place& place, Instant now, const char* scenario = "changing") {
@@ -36,8 +39,8 @@ TEST(DemonstrationAtmosphere, EveryHourOfAYearIsPossible) {
         const DemonstrationAtmosphere atmosphere(placeAt(latitude, 0.0, "UTC"),
                                                  scenarios().front());
         for (int hour = 0; hour < 365 * 24; ++hour) {
-            const State state =
-                atmosphere.at(at("2026-01-01T00:00:00Z").addingSeconds(3600.0 * hour));
+            const State state = atmosphere.at(
+                at(QStringLiteral("2026-01-01T00:00:00Z")).addingSeconds(3600.0 * hour));
             ASSERT_LE(state.dewPoint, state.temperature) << latitude;
             ASSERT_GE(state.gusts, state.windSpeed) << latitude;
             ASSERT_EQ(state.windSpeed == Knots(0), state.windDirection == Degrees(0)) << latitude;
@@ -64,7 +67,8 @@ TEST(DemonstrationAtmosphere, SummerIsInJulyInTheNorthAndInJanuaryInTheSouth) {
                                                  scenarios().front());
         double warmer = 0.0;  // the mean of 30 noons in July against those in January
         for (int day = 0; day < 30; ++day) {
-            const Instant winter = at("2026-01-06T12:00:00Z").addingSeconds(86400.0 * day);
+            const Instant winter =
+                at(QStringLiteral("2026-01-06T12:00:00Z")).addingSeconds(86400.0 * day);
             warmer += (atmosphere.at(winter.addingSeconds(180 * 86400.0)).temperature.value() -
                        atmosphere.at(winter).temperature.value()) /
                       30.0;
@@ -74,45 +78,34 @@ TEST(DemonstrationAtmosphere, SummerIsInJulyInTheNorthAndInJanuaryInTheSouth) {
 }
 
 TEST(DemonstrationWeather, IsTheSameForAPlaceDuringAnHour) {
-    const Weather first = weatherAt(berlin, at("2026-06-01T12:00:00Z"));
-    const Weather last = weatherAt(berlin, at("2026-06-01T12:59:59.999Z"));
+    const Weather first = weatherAt(berlin, at(QStringLiteral("2026-06-01T12:00:00Z")));
+    const Weather last = weatherAt(berlin, at(QStringLiteral("2026-06-01T12:59:59.999Z")));
     EXPECT_EQ(first.observation->time, last.observation->time);
     EXPECT_EQ(first.observation->temperature, last.observation->temperature);
     EXPECT_EQ(first.days->back().highest, last.days->back().highest);
-    EXPECT_EQ(weatherAt(berlin, at("2026-06-01T13:00:00Z")).observation->time,
-              at("2026-06-01T13:00:00Z"));
+    EXPECT_EQ(weatherAt(berlin, at(QStringLiteral("2026-06-01T13:00:00Z"))).observation->time,
+              at(QStringLiteral("2026-06-01T13:00:00Z")));
     // The default place has its coordinates in single precision; its weather is the same.
     const Place single{1, 52.529998779296875, 13.380000114440918, berlin.zone};
-    EXPECT_EQ(weatherAt(single, at("2026-06-01T12:00:00Z")).observation->temperature,
-              first.observation->temperature);
+    EXPECT_EQ(
+        weatherAt(single, at(QStringLiteral("2026-06-01T12:00:00Z"))).observation->temperature,
+        first.observation->temperature);
     // Pinned: another machine, compiler or year must not change it unnoticed.
     EXPECT_DOUBLE_EQ(first.observation->temperature->value(), 16.4);
     EXPECT_DOUBLE_EQ(first.observation->pressure->value(), 1037.8);
 }
 
 TEST(DemonstrationWeather, SixDaysBeginTodayOnThePlacesOwnCalendar) {
-    struct Case {
-        const char* zone;
-        const char* utc;
-        QDate today;
-    };
-    for (const Case& c : {
-             Case{"Pacific/Kiritimati", "2026-01-01T09:59:59Z", {2026, 1, 1}},  // +14:00
-             Case{"Pacific/Kiritimati", "2026-01-01T10:00:00Z", {2026, 1, 2}},
-             Case{"Pacific/Pago_Pago", "2026-01-01T10:59:59Z", {2025, 12, 31}},  // -11:00
-             Case{"Pacific/Chatham", "2026-01-31T10:15:00Z", {2026, 2, 1}},      // +13:45
-             Case{"Asia/Kathmandu", "2026-02-28T18:14:59Z", {2026, 2, 28}},      // +05:45
-             Case{"Europe/Berlin", "2026-03-28T23:30:00Z", {2026, 3, 29}},       // 23 hours long
-             Case{"Europe/Berlin", "2026-10-24T22:00:00Z", {2026, 10, 25}},      // 25 hours long
-             Case{"Australia/Lord_Howe", "2026-04-04T13:00:00Z", {2026, 4, 5}},  // 24.5 hours long
-             Case{"America/Santiago", "2026-09-06T04:30:00Z", {2026, 9, 6}},     // without 00:00
-         }) {
-        const Weather weather = weatherAt(placeAt(10.0, 20.0, c.zone), at(c.utc));
+    forEachLine("feed/todays.tsv", [](const DataLine& line) {
+        const QByteArray zone = line.utf8(0);
+        const Weather weather = weatherAt(placeAt(10.0, 20.0, zone.constData()), at(line[1]));
         ASSERT_EQ(weather.days->size(), 6U);
-        for (int i = 0; i < 6; ++i)
-            EXPECT_EQ(weather.days->at(static_cast<std::size_t>(i)).date, c.today.addDays(i))
-                << c.zone << ' ' << c.utc;
-    }
+        QDate expected = QDate::fromString(line[2], Qt::ISODate);
+        for (const ForecastDay& day : *weather.days) {
+            EXPECT_EQ(day.date, expected);
+            expected = expected.addDays(1);
+        }
+    });
 }
 
 TEST(DemonstrationWeather, ForecastAndObservationsAgree) {
@@ -120,7 +113,8 @@ TEST(DemonstrationWeather, ForecastAndObservationsAgree) {
         for (const char* zone : {"Europe/Berlin", "Australia/Lord_Howe", "Asia/Kathmandu"}) {
             const Place place = placeAt(latitude, 160.0, zone);
             for (int day = 0; day < 365; day += 13) {
-                const Instant now = at("2026-01-01T05:20:00Z").addingSeconds(86400.0 * day);
+                const Instant now =
+                    at(QStringLiteral("2026-01-01T05:20:00Z")).addingSeconds(86400.0 * day);
                 const Weather weather = weatherAt(place, now);
                 for (const ForecastDay& forecast : *weather.days)
                     ASSERT_LT(forecast.lowest, forecast.highest) << latitude;
@@ -139,22 +133,14 @@ TEST(DemonstrationWeather, ForecastAndObservationsAgree) {
 }
 
 TEST(DemonstrationWeather, SunAndMoonFollowTheSkyOfThePlace) {
-    struct Case {
-        double latitude;
-        const char* utc;
-        int body;  // first digit of the symbol in the "fair" scenario: 1 sun, 2 moon
-    };
-    for (const Case& c :
-         {Case{52.53, "2026-06-01T12:00:00Z", 1}, Case{52.53, "2026-06-01T00:00:00Z", 2},
-          Case{78.2, "2026-06-21T00:00:00Z", 1},  // polar day
-          Case{78.2, "2026-12-21T12:00:00Z", 2},  // polar night
-          Case{-78.2, "2026-06-21T12:00:00Z", 2}, Case{90.0, "2026-06-21T00:00:00Z", 1}}) {
-        const Weather weather =
-            weatherAt(placeAt(c.latitude, 13.0, "Europe/Berlin"), at(c.utc), "fair");
-        EXPECT_EQ(*weather.observation->symbol / 1000000, c.body) << c.latitude << ' ' << c.utc;
-    }
+    forEachLine("feed/bodies.tsv", [](const DataLine& line) {
+        const Place place = placeAt(line.number(0), 13.0, "Europe/Berlin");
+        const Weather weather = weatherAt(place, at(line[1]), "fair");
+        EXPECT_EQ(*weather.observation->symbol / 1000000, line.integer(2));
+    });
     const Place svalbard = placeAt(78.2, 15.6, "Arctic/Longyearbyen");
-    const Weather polarNight = weatherAt(svalbard, at("2026-12-21T12:00:00Z"), "fair");
+    const Weather polarNight =
+        weatherAt(svalbard, at(QStringLiteral("2026-12-21T12:00:00Z")), "fair");
     for (const ForecastDay& day : *polarNight.days)
         EXPECT_EQ(*day.symbol / 1000000, 2);
 }

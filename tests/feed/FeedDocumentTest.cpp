@@ -7,9 +7,12 @@
 #include "feed/FeedDocument.h"
 #include "foundation/TimeZone.h"
 #include "model/Obs.h"
+#include "support/DataLines.h"
 
 namespace zephyrix {
 namespace {
+
+using namespace zephyrix::testing;
 
 QTimeZone zone(const char* name) {
     return timeZoneWithName(QString::fromLatin1(name));
@@ -22,18 +25,11 @@ QJsonObject documentOf(const Weather& weather, const char* zoneName = "Europe/Be
 }
 
 QJsonObject lastObsOf(const QJsonObject& document) {
-    return document.value(QStringLiteral("obs"))
-        .toObject()
-        .value(QStringLiteral("lastObs"))
-        .toObject();
+    return document[QLatin1String("obs")][QLatin1String("lastObs")].toObject();
 }
 
 QJsonArray daysOf(const QJsonObject& document) {
-    return document.value(QStringLiteral("forecast"))
-        .toObject()
-        .value(QStringLiteral("days"))
-        .toObject()
-        .value(QStringLiteral("day"))
+    return document[QLatin1String("forecast")][QLatin1String("days")][QLatin1String("day")]
         .toArray();
 }
 
@@ -74,55 +70,33 @@ TEST(FeedDocument, NamesItsSourceWhereThePanelKeepsIt) {
 }
 
 TEST(FeedDocument, TimesCarryTheOffsetOfThePlace) {
-    struct Case {
-        const char* zone;
-        const char* text;
-    };
-    for (const Case& c : {Case{"UTC", "2015-06-01T10:00:00+00:00"},
-                          Case{"Asia/Kathmandu", "2015-06-01T15:45:00+05:45"},
-                          Case{"America/St_Johns", "2015-06-01T07:30:00-02:30"},
-                          Case{"Pacific/Kiritimati", "2015-06-02T00:00:00+14:00"}}) {
-        const QJsonObject lastObs = lastObsOf(documentOf(
-            {.source = QStringLiteral("test"), .observation = Observation{.time = noon}}, c.zone));
-        EXPECT_EQ(lastObs.value(QStringLiteral("datetime")), QString::fromLatin1(c.text));
-        EXPECT_EQ(Obs(lastObs.toVariantMap()).date, noon) << c.zone;  // as the panel reads it
-    }
+    forEachLine("feed/offsets.tsv", [](const DataLine& line) {
+        const QJsonObject lastObs = lastObsOf(
+            documentOf({.source = QStringLiteral("test"), .observation = Observation{.time = noon}},
+                       line.utf8(0).constData()));
+        EXPECT_EQ(lastObs.value(QStringLiteral("datetime")), line[1]);
+        EXPECT_EQ(Obs(lastObs.toVariantMap()).date, noon);  // as the panel reads it
+    });
 }
 
 TEST(FeedDocument, EveryScenarioShowsWhatItIsNamedFor) {
-    struct Case {
-        const char* scenario;
-        int symbol;  // of the observation at noon; 0 none, -1 not looked at
-        double tt;   // about, where the scenario fixes it
-        qsizetype days;
-    };
-    constexpr double any = 99.0;
     const Place place{1, 52.53, 13.38, zone("Europe/Berlin")};
     std::size_t checked = 1;  // "changing" has no symbol of its own
-    for (const Case& c : {Case{"fair", 1100000, any, 6}, Case{"clear-night", 2000000, any, 6},
-                          Case{"rain", 520200, 9.0, 6}, Case{"thunderstorm", 1221230, 23.0, 6},
-                          Case{"snow", 240200, -4.0, 6}, Case{"fog", 70300, 4.0, 6},
-                          Case{"gale", 1593200, 8.0, 6}, Case{"polar-day", 1200000, 2.0, 6},
-                          Case{"polar-night", 2100000, -24.0, 6}, Case{"missing", 0, -9999.0, 6},
-                          Case{"no-observation", -1, any, 6}, Case{"no-forecast", -1, any, 0}}) {
-        const Scenario* const scenario = scenarioNamed(c.scenario);
-        ASSERT_NE(scenario, nullptr) << c.scenario;
+    forEachLine("feed/scenarios.tsv", [&](const DataLine& line) {
+        const Scenario* const scenario = scenarioNamed(line.utf8(0).toStdString());
+        ASSERT_NE(scenario, nullptr);
         ++checked;
         const QJsonObject document =
             documentOf(*DemonstrationWeather(*scenario).weatherAt(place, noon));
-        EXPECT_EQ(daysOf(document).size(), c.days) << c.scenario;
-        EXPECT_EQ(document.contains(QStringLiteral("forecast")), c.days > 0) << c.scenario;
+        EXPECT_EQ(daysOf(document).size(), line.integer(3));
+        EXPECT_EQ(document.contains(QStringLiteral("forecast")), line.integer(3) > 0);
         const bool observed = scenario->content != Scenario::Content::NoObservation;
-        EXPECT_EQ(document.contains(QStringLiteral("obs")), observed) << c.scenario;
+        EXPECT_EQ(document.contains(QStringLiteral("obs")), observed);
         const Obs obs(lastObsOf(document).toVariantMap());
-        EXPECT_EQ(obs.isValid(), observed) << c.scenario;
-        if (c.symbol >= 0) {
-            EXPECT_EQ(obs.symbol->integerValue(), c.symbol) << c.scenario;
-        }
-        if (c.tt != any) {
-            EXPECT_NEAR(obs.tt->doubleValue(), c.tt, 6.0) << c.scenario;
-        }
-    }
+        EXPECT_EQ(obs.isValid(), observed);
+        EXPECT_TRUE(line[1] == u"any" || obs.symbol == Number(line.integer(1)));
+        EXPECT_TRUE(line[2] == u"any" || std::abs(obs.tt->doubleValue() - line.number(2)) < 6.0);
+    });
     EXPECT_EQ(checked, scenarios().size());
     EXPECT_EQ(scenarioNamed("Rain"), nullptr);
 }
