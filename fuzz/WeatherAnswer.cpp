@@ -1,11 +1,13 @@
-#include "WeatherAnswer.h"
-
+// An answer where one of the service WEATHER_SERVICE is expected, for a place in Berlin at
+// 2026-06-01 12:05 UTC: what is promised of all that it tells.
 #include "Surroundings.h"
 #include "foundation/TimeZone.h"
-
-namespace zephyrix::fuzz {
+#include "weather/WeatherServices.h"
 
 namespace {
+
+using namespace zephyrix;
+using namespace zephyrix::fuzz;
 
 constexpr Instant now = Instant::fromSecondsSince1970(1780315500.0);
 
@@ -36,7 +38,9 @@ void checkDays(const std::vector<ForecastDay>& days) {
 
 }  // namespace
 
-void checkAnswer(const WeatherService& service, const QByteArray& answer) {
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const WeatherService& service = *weatherServiceNamed(QStringLiteral(WEATHER_SERVICE));
+    const QByteArray answer = bytesOf(data, size);
     const Place place{1, 52.53, 13.38, timeZoneWithName(QStringLiteral("Europe/Berlin"))};
     static_cast<void>(service.reasonIn(answer));
     try {
@@ -49,6 +53,5 @@ void checkAnswer(const WeatherService& service, const QByteArray& answer) {
     } catch (const UnreadableAnswer&) {
         // What such an answer is for.
     }
+    return 0;
 }
-
-}  // namespace zephyrix::fuzz

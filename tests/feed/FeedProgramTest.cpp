@@ -11,11 +11,15 @@
 
 #include "foundation/UserDefaults.h"
 #include "model/LocationResult.h"
+#include "support/DataLines.h"
+#include "support/Programs.h"
 #include "support/TestHome.h"
 #include "weather/FakeService.h"
 
 namespace zephyrix {
 namespace {
+
+using namespace zephyrix::testing;
 
 const QString program = QStringLiteral(PROGRAM_DIR "/zephyrix-feedd");
 
@@ -62,18 +66,6 @@ class FeedProgram {
     QProcess process;
     quint16 port = 0;
 };
-
-struct Outcome {
-    int exitCode;
-    QByteArray err;
-};
-
-Outcome run(const QStringList& arguments) {
-    QProcess process;
-    process.start(program, arguments);
-    EXPECT_TRUE(process.waitForFinished(5000)) << arguments.join(u' ').toStdString();
-    return {process.exitCode(), process.readAllStandardError()};
-}
 
 int statusOf(const QByteArray& answer) {
     return answer.startsWith("HTTP/1.1 ") ? answer.mid(9, 3).toInt() : 0;
@@ -131,25 +123,11 @@ TEST(FeedProgram, SendsADocumentOnlyToThoseWhoDoNotHaveIt) {
 
 TEST(FeedProgram, TellsWhatIsWrongWithARequest) {
     FeedProgram feed;
-    struct Case {
-        const char* request;
-        int status;
-    };
-    for (const Case& c :
-         {Case{"GET /zephyrix/WeatherFeed.php?lid=9223372036854775807", 200},
-          Case{"GET /zephyrix/WeatherFeed.php", 400},
-          Case{"GET /zephyrix/WeatherFeed.php?lid=", 400},
-          Case{"GET /zephyrix/WeatherFeed.php?lid=0", 400},
-          Case{"GET /zephyrix/WeatherFeed.php?lid=-1", 400},
-          Case{"GET /zephyrix/WeatherFeed.php?lid=12x", 400},
-          Case{"GET /zephyrix/WeatherFeed.php?lid=9223372036854775808", 400},
-          Case{"GET /zephyrix/weatherfeed.php?lid=1", 404}, Case{"GET /", 404},
-          Case{"GET /%1%0a%25", 404}, Case{"POST /zephyrix/WeatherFeed.php?lid=1", 405},
-          Case{"DELETE /zephyrix/WeatherFeed.php?lid=1", 405}, Case{"nonsense", 400}}) {
-        const QByteArray answer = feed.answerTo(c.request);
-        EXPECT_EQ(statusOf(answer), c.status) << c.request;
-        EXPECT_EQ(answer.contains("{\"error\":\""), c.status != 200) << c.request;
-    }
+    forEachLine("feed/requests.tsv", [&](const DataLine& line) {
+        const QByteArray answer = feed.answerTo(line.utf8(0));
+        EXPECT_EQ(statusOf(answer), line.integer(1));
+        EXPECT_EQ(answer.contains("{\"error\":\""), line[1] != u"200");
+    });
     // A path as long as the server takes, and one that is longer.
     EXPECT_EQ(statusOf(feed.answerTo("GET /" + QByteArray(8000, 'a'))), 404);
     EXPECT_EQ(statusOf(feed.answerTo("GET /" + QByteArray(9000, 'a'))), 414);
@@ -276,7 +254,7 @@ TEST(FeedProgram, IsOnThisMachineOnlyAndSharesItsPortWithNobody) {
     other.connectToHost(QStringLiteral("127.0.0.2"), feed.port);
     EXPECT_FALSE(other.waitForConnected(1000));
 
-    const Outcome second = run({QStringLiteral("--port"), QString::number(feed.port)});
+    const Outcome second = runOurs(QStringLiteral("zephyrix-feedd --port %1").arg(feed.port));
     EXPECT_EQ(second.exitCode, 1);
     EXPECT_TRUE(second.err.contains(QByteArray::number(feed.port))) << second.err.toStdString();
 }
@@ -314,25 +292,11 @@ TEST(FeedProgram, EndsAtOnce) {
 }
 
 TEST(FeedProgram, TellsWhatIsWrongWithItsOptions) {
-    struct Case {
-        const char* line;
-        const char* told;
-    };
-    for (const Case& c :
-         {Case{"--port 65536", "65536"}, Case{"--port -1", "-1"}, Case{"--port http", "http"},
-          Case{"--scenario sunny", "changing, fair, clear-night"},
-          Case{"--latitude 52", "--longitude"}, Case{"--latitude 91 --longitude 0", "91"},
-          Case{"--latitude 1 --longitude 2 --zone Europe/Atlantis", "Atlantis"},
-          Case{"--loud", "loud"}, Case{"rain", "rain"}, Case{"--source sunny", "auto, open-meteo"},
-          Case{"--source met-norway", "--contact"}, Case{"--source auto --contact me", "no e-mail"},
-          Case{"--source auto --scenario rain", "demonstration"},
-          Case{"--source auto --source-address sunny=https://a.example/", "sunny"},
-          Case{"--source auto --source-address open-meteo=http://a.example/", "https"},
-          Case{"--source auto --source-address open-meteo=file:///etc/", "https"}}) {
-        const Outcome outcome = run(QString::fromUtf8(c.line).split(u' '));
-        EXPECT_EQ(outcome.exitCode, 2) << c.line;
-        EXPECT_TRUE(outcome.err.contains(c.told)) << c.line << ": " << outcome.err.toStdString();
-    }
+    forEachLine("feed/bad_options.tsv", [](const DataLine& line) {
+        const Outcome outcome = runOurs(QStringLiteral("zephyrix-feedd ") + line[0]);
+        EXPECT_EQ(outcome.exitCode, 2);
+        EXPECT_TRUE(outcome.err.contains(line.utf8(1))) << outcome.err.toStdString();
+    });
 }
 
 }  // namespace

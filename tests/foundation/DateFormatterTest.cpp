@@ -56,31 +56,19 @@ TEST(DateFormatter, ReadsNothingButTheExactForm) {
     });
 }
 
-struct StyleCase {
-    const char* locale;
-    const char* time;
-    const char* weekday;
-};
-
 TEST(DateFormatter, TimesAndDaysFollowTheUsersLocale) {
-    const StyleCase cases[] = {
-        {"en_US", "1:30 AM", "Tue"},
-        {"de_DE", "01:30", "Di."},
-        {"fr_FR", "01:30", "mar."},
-        {"ru_RU", "01:30", "вт"},
-    };
     // 23:30 UTC on a Monday is half past one on Tuesday two hours east.
     const Instant instant = Instant::fromSecondsSince1970(1433201400);
-    for (const StyleCase& c : cases) {
-        const ReplacedUserLocale locale(c.locale);
+    forEachLine("foundation/date_styles.tsv", [&](const DataLine& line) {
+        const ReplacedUserLocale locale(line.utf8(0).constData());
         DateFormatter formatter;
         formatter.setTimeZone(QTimeZone("Europe/Berlin"));
         EXPECT_EQ(formatter.stringFromDate(instant), QString()) << "no form at all";
         formatter.setTimeStyle(DateFormatter::Style::Short);
-        EXPECT_EQ(withPlainBlanks(formatter.stringFromDate(instant)), QString::fromUtf8(c.time));
+        EXPECT_EQ(withPlainBlanks(formatter.stringFromDate(instant)), line[1]);
         formatter.setDateFormat(QStringLiteral("EEE"));
-        EXPECT_EQ(formatter.stringFromDate(instant), QString::fromUtf8(c.weekday));
-    }
+        EXPECT_EQ(formatter.stringFromDate(instant), line[2]);
+    });
     const ReplacedUserLocale thai("th_TH");
     DateFormatter year;
     year.setDateFormat(QStringLiteral("yyyy"));

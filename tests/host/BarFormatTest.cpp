@@ -10,6 +10,7 @@
 #include "foundation/Clock.h"
 #include "host/BarFormat.h"
 #include "host/BarSymbol.h"
+#include "support/DataLines.h"
 #include "support/Documents.h"
 #include "support/TestHome.h"
 
@@ -155,42 +156,14 @@ TEST_F(BarFormatTest, WithoutAPlaceTheTooltipAsksForOne) {
     EXPECT_EQ(line("{symbol} {temperature}"), QString());
 }
 
-struct SymbolCase {
-    long long code;
-    QString glyph;
-    const char* kind;
-};
-
 TEST(BarSymbol, SaysInOneSignWhatTheDigitsMean) {
-    const std::vector<SymbolCase> cases = {
-        {1000000, QStringLiteral("\u2600"), "clear"},
-        {2000000, QStringLiteral("\U0001F319"), "clear"},
-        {1100000, QStringLiteral("\U0001F324"), "clouds"},
-        {1800000, QStringLiteral("\u26C5"), "clouds"},
-        {1600000, QStringLiteral("\U0001F325"), "clouds"},
-        {2400000, QStringLiteral("\U0001F319"), "clouds"},
-        {2500000, QStringLiteral("\u2601"), "clouds"},
-        {600000, QStringLiteral("\u2601"), "clouds"},
-        {1121100, QStringLiteral("\U0001F326"), "rain"},
-        {2121100, QStringLiteral("\U0001F327"), "rain"},
-        {520200, QStringLiteral("\U0001F327"), "rain"},
-        {510100, QStringLiteral("\U0001F327"), "drizzle"},
-        {240200, QStringLiteral("\U0001F328"), "snow"},
-        {70300, QStringLiteral("\U0001F32B"), "fog"},
-        {1221230, QStringLiteral("\u26C8"), "thunderstorm"},
-        {1593200, QStringLiteral("\U0001F32C"), "wind"},
-        {99910, QStringLiteral("\U0001F329"), "thunderstorm"},
-        {9999992, QStringLiteral("\u26A0"), "warning"},
-        {0, {}, "none"},
-        {-9999, {}, "none"},
-        {900000, {}, "none"},
-    };
-    for (const SymbolCase& row : cases) {
-        const BarSymbol symbol = barSymbol(Number(row.code));
-        EXPECT_EQ(symbol.glyph, row.glyph) << row.code;
-        EXPECT_EQ(symbol.kind, QLatin1String(row.kind)) << row.code;
-        EXPECT_EQ(symbol.isNight, row.code >= 2000000 && row.code < 3000000) << row.code;
-    }
+    forEachLine("host/bar_symbols.tsv", [](const DataLine& line) {
+        const qint64 code = line.integer(0);
+        const BarSymbol symbol = barSymbol(Number(code));
+        EXPECT_EQ(symbol.glyph, line[1]);
+        EXPECT_EQ(symbol.kind, line[2]);
+        EXPECT_EQ(symbol.isNight, code >= 2000000 && code < 3000000);
+    });
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include <QJsonDocument>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -74,15 +75,9 @@ TEST(LocationResult, DictionaryRoundTripDropsOnlyTheProvinceNumber) {
 }
 
 TEST(LocationResult, WrongTypesAreReadAsFarAsUsable) {
-    const LocationResult place(QVariantMap{
-        {QStringLiteral("uid"), QStringLiteral("17 or so")},
-        {QStringLiteral("name"), 42},
-        {QStringLiteral("timezone"), QVariantList{1}},
-        {QStringLiteral("latitude"), QStringLiteral("52.5N")},
-        {QStringLiteral("longitude"), QVariantMap()},
-        {QStringLiteral("favorite"), true},
-        {QStringLiteral("locationType"), QVariantList()},
-    });
+    const char json[] = R"({"uid": "17 or so", "name": 42, "timezone": [1], "latitude": "52.5N",
+                            "longitude": {}, "favorite": true, "locationType": []})";
+    const LocationResult place(QJsonDocument::fromJson(json).toVariant().toMap());
     EXPECT_EQ(place.uid(), Number(17));
     EXPECT_EQ(place.latitude(), Number(52.5));
     EXPECT_EQ(place.longitude(), Number(0.0));

@@ -2,6 +2,7 @@
 
 #include "FakeService.h"
 #include "Telling.h"
+#include "support/DataLines.h"
 #include "support/TestHome.h"
 #include "weather/AutomaticWeather.h"
 #include "weather/BrightSky.h"
@@ -72,26 +73,11 @@ class Services {
 };
 
 TEST(AutomaticWeather, TakesTheBestAndTheNextWhenItFails) {
-    struct Case {
-        const char* why;
-        Place place;
-        const char* down;
-        const char* told;
-    };
-    for (const Case& c : {
-             Case{"a station's observation on a forecast", berlin, "",
-                  "Bright Sky, Open-Meteo: 3 and days"},
-             Case{"no station", berlin, "c", "Open-Meteo: 1 and days"},
-             Case{"the next forecast", berlin, "v", "Bright Sky, MET Norway: 3 and days"},
-             Case{"only the station", berlin, "vw", "Bright Sky: 3"},
-             Case{"at home in the north", oslo, "", "MET Norway: 2 and days"},
-             Case{"but not up", oslo, "w", "Open-Meteo: 1 and days"},
-             Case{"all down", berlin, "vwc", "nothing"},
-         }) {
+    forEachLine("weather/automatic.tsv", [](const DataLine& line) {
         Services services;
-        services.down = c.down;
-        EXPECT_EQ(services.told(c.place, start), c.told) << c.why;
-    }
+        services.down = line[1].toStdString();
+        EXPECT_EQ(services.told(line[0] == u"oslo" ? oslo : berlin, start), line[2].toStdString());
+    });
 }
 
 TEST(AutomaticWeather, HoldsWhatWasFetchedLastWhenAllAreDown) {

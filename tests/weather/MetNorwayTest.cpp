@@ -99,19 +99,12 @@ TEST(MetNorway, GathersStepsIntoThePlacesOwnDays) {
 }
 
 TEST(MetSymbol, KnowsWeatherByDayAndNight) {
-    struct Case {
-        const char* code;
-        int ww;
-        double eighths;
-    };
-    for (const Case& c :
-         {Case{"clearsky_polartwilight", 2, 0}, Case{"cloudy", 2, 8}, Case{"fog", 45, 8},
-          Case{"lightssnowshowersandthunder_day", 95, 5}, Case{"heavysleet", 69, 8}}) {
-        const auto symbol = metSymbol(c.code);
-        ASSERT_TRUE(symbol) << c.code;
-        EXPECT_EQ(symbol->presentWeather, c.ww) << c.code;
-        EXPECT_EQ(symbol->cloudCover, Eighths(c.eighths)) << c.code;
-    }
+    forEachLine("weather/met_symbols.tsv", [](const DataLine& line) {
+        const auto symbol = metSymbol(line.utf8(0).toStdString());
+        ASSERT_TRUE(symbol);
+        EXPECT_EQ(symbol->presentWeather, line.integer(1));
+        EXPECT_EQ(symbol->cloudCover, Eighths(line.number(2)));
+    });
     for (const char* code : {"", "_day", "rainy", "Rain"})
         EXPECT_FALSE(metSymbol(code)) << code;
 }
