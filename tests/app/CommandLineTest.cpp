@@ -1,6 +1,7 @@
 // The real program, run as a person or a script runs it.
 #include <QDir>
 #include <QFile>
+#include <QJsonObject>
 #include <gtest/gtest.h>
 
 #include "foundation/UserDefaults.h"

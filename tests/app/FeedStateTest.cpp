@@ -1,6 +1,5 @@
 #include <array>
 
-#include <QDateTime>
 #include <QJsonDocument>
 #include <gtest/gtest.h>
 

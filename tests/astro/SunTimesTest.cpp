@@ -3,7 +3,6 @@
 #include <cmath>
 #include <iostream>
 #include <limits>
-#include <optional>
 
 #include <QHash>
 #include <QMap>

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QStringList>
 #include <gtest/gtest.h>
 
 #include "foundation/Clock.h"

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "SettingsFolder.h"
+#include "support/Files.h"
 #include "support/DataLines.h"
 #include "support/Programs.h"
 #include "support/TestHome.h"

@@ -19,6 +19,7 @@
 #include <gtest/gtest.h>
 
 #include "SettingsFolder.h"
+#include "support/Files.h"
 
 namespace zephyrix {
 namespace {

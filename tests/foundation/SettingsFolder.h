@@ -6,7 +6,6 @@
 #include <QString>
 
 #include "foundation/UserDefaults.h"
-#include "support/Files.h"
 
 namespace zephyrix::testing {
 

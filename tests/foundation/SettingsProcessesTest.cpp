@@ -14,6 +14,7 @@
 
 #include "SettingsFolder.h"
 #include "foundation/PropertyList.h"
+#include "support/Files.h"
 
 namespace zephyrix {
 namespace {

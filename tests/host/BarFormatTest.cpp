@@ -1,6 +1,5 @@
 #include <memory>
 
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <gmock/gmock.h>

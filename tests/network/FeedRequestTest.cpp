@@ -1,8 +1,6 @@
 #include <chrono>
-#include <memory>
 #include <vector>
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>

@@ -1,7 +1,6 @@
 #include <memory>
 
 #include <QDir>
-#include <QSet>
 #include <gtest/gtest.h>
 
 #include "foundation/Bundle.h"
