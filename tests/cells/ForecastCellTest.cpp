@@ -165,9 +165,8 @@ TEST_F(ForecastCellTest, EachPassFillsTheContainerAnewButNotWithoutDays) {
 
 TEST_F(ForecastCellTest, KeepsDaysFromTodayOnInTheDevicesZone) {
     ForecastCell* cell = cellOn(375);
-    const QStringList dates = {QStringLiteral("2015-06-02"), QStringLiteral("2015-05-31"),
-                               QStringLiteral("2015-06-01"), QStringLiteral("2015-6-3"),
-                               QStringLiteral("2015-06-31"), QString()};
+    const QStringList dates =
+        QStringLiteral("2015-06-02,2015-05-31,2015-06-01,2015-6-3,2015-06-31,").split(u',');
     const QStringList fromToday = {QStringLiteral("2015-06-02"), QStringLiteral("2015-06-01")};
     // Midnight and the last second of June 1 in Berlin, which is two hours ahead of UTC.
     for (const double hoursFromNoon : {-12.0, 0.0, 11.9999}) {

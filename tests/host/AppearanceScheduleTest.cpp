@@ -305,42 +305,27 @@ TEST_F(AppearanceScheduleTest, RowSaysFromTwoHoursOnHowOldItIs) {
     EXPECT_EQ(age()->text(), QStringLiteral("3 h ago"));
 }
 
-struct Day {
-    const char* name;
-    bool feedAnswers;
-    bool stationReports;
-    int mostRequests;
-    int mostWakeUps;
-};
-
-// The document comes of age 143 times after the first one. Besides: a midnight, the earlier tries
-// of a feed that fails, and the hours 2 to 23 of an observation that stays.
-constexpr std::array days{
-    Day{"all is well", true, true, 143, 143 + 1},
-    Day{"a silent station", true, false, 143, 143 + 1 + 22},
-    Day{"a broken feed", false, false, 143 + 3, 143 + 3 + 1 + 22},
-};
-
 TEST_F(AppearanceScheduleTest, ADayOnScreenTakesFewWakeUps) {
     choosePlace();
-    for (const Day& row : days) {
+    forEachLine("host/days_on_screen.tsv", [this](const DataLine& line) {
         now_ = noon;
         store(noon, noon);
         server_.answerWith([&](QTcpSocket& client) {
-            const double late = row.stationReports ? std::fmod(now_.secondsSince(noon), hour / 2)
-                                                   : now_.secondsSince(noon);
-            answerBody(row.feedAnswers ? feedDocument(21.0, now_.addingSeconds(-late))
-                                       : "<html>")(client);
+            const double late = line.isYes(2) ? std::fmod(now_.secondsSince(noon), hour / 2)
+                                              : now_.secondsSince(noon);
+            answerBody(line.isYes(1) ? feedDocument(21.0, now_.addingSeconds(-late))
+                                     : "<html>")(client);
         });
         const int before = requests();
         restart();
         wait(day);
         const int asked = requests() - before;
-        std::printf("a day on screen, %-17s %d wake-ups, %d requests\n", row.name, wakeUps_, asked);
-        EXPECT_LE(wakeUps_, row.mostWakeUps) << row.name;
-        EXPECT_LE(asked, row.mostRequests) << row.name;
-        EXPECT_GE(asked, 143) << row.name;
-    }
+        std::printf("a day on screen, %-17s %d wake-ups, %d requests\n", qPrintable(line[0]),
+                    wakeUps_, asked);
+        EXPECT_LE(wakeUps_, line.integer(4));
+        EXPECT_LE(asked, line.integer(3));
+        EXPECT_GE(asked, 143);
+    });
     schedule_->panelDisappeared();
     const int before = requests();
     wakeUps_ = 0;

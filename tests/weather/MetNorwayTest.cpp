@@ -14,22 +14,13 @@ using namespace zephyrix::testing;
 const MetNorway service;
 const Place oslo = placeAt(59.91, 10.75, "Europe/Oslo");
 
-QByteArray seriesOf(const QByteArray& steps) {
-    return R"({"type":"Feature","geometry":{"type":"Point","coordinates":[10.75,59.91,5]},
-        "properties":{"meta":{"updated_at":"2026-06-01T11:30:00Z","units":{
-        "air_pressure_at_sea_level":"hPa","air_temperature":"celsius","air_temperature_max":"celsius",
-        "air_temperature_min":"celsius","cloud_area_fraction":"%","dew_point_temperature":"celsius",
-        "precipitation_amount":"mm","wind_from_direction":"degrees","wind_speed":"m/s",
-        "wind_speed_of_gust":"m/s"}},"timeseries":[)" +
-           steps + "]}}";
-}
+// Both by hand, in the form that the service documents.
+const QByteArray series = dataFile(QStringLiteral("weather/met_norway_series.json"));
+const QByteArray noonStep = dataFile(QStringLiteral("weather/met_norway_noon.json"));
 
-const QByteArray noonStep = R"({"time":"2026-06-01T12:00:00Z","data":{"instant":{"details":{
-    "air_pressure_at_sea_level":1006.3,"air_temperature":14.8,"cloud_area_fraction":62.5,
-    "dew_point_temperature":12.1,"wind_from_direction":240.4,"wind_speed":5.0,
-    "wind_speed_of_gust":10.3}},"next_1_hours":{"summary":{"symbol_code":"rainshowers_day"},
-    "details":{"precipitation_amount":0.7}},"next_6_hours":{"summary":{"symbol_code":"rain"},
-    "details":{"precipitation_amount":4.0,"air_temperature_max":17.5,"air_temperature_min":11.0}}}})";
+QByteArray seriesOf(const QByteArray& steps) {
+    return with(series, "STEPS", steps);
+}
 
 /// A step with what a far forecast has: "HOURS" is 1 or 6.
 QByteArray step(const QString& time, double temperature, const char* hours, const char* symbol,
@@ -56,14 +47,14 @@ TEST(MetNorway, TellsTheStepThatHoldsNow) {
     const auto farStep = [](const char* time, const char* hours, const char* symbol) {
         return seriesOf(step(QLatin1String(time), 3, hours, symbol, 0));
     };
-    const QByteArray series = seriesOf(noonStep + ',' + later);
+    const QByteArray both = seriesOf(noonStep + ',' + later);
     const QHash<QString, QByteArray> answers{
-        {QStringLiteral("noon and one"), series},
+        {QStringLiteral("noon and one"), both},
         {QStringLiteral("one, noon and noon"), seriesOf(later + ',' + noonStep + ',' + noonStep)},
         {QStringLiteral("six hours of midnight"),
          farStep("2026-06-01T00:00:00Z", "6", "fair_night")},
         {QStringLiteral("frogs at noon"), farStep("2026-06-01T12:00:00Z", "1", "frogs")},
-        {QStringLiteral("km/h"), with(series, R"("wind_speed":"m/s")", R"("wind_speed":"km/h")")},
+        {QStringLiteral("km/h"), with(both, R"("wind_speed":"m/s")", R"("wind_speed":"km/h")")},
         {QStringLiteral("none"), seriesOf("")},
         {QStringLiteral("nonsense"), seriesOf(R"({"data":{}},7,null,[])")}};
     forEachLine("weather/met_norway_steps.tsv", [&](const DataLine& line) {
@@ -72,13 +63,13 @@ TEST(MetNorway, TellsTheStepThatHoldsNow) {
                   line[2].toStdString());
     });
     // What it reads changes with the hour, without a new answer.
-    EXPECT_EQ(service.read(series, oslo, at("2026-06-01T12:10:00Z")).validUntil,
+    EXPECT_EQ(service.read(both, oslo, at("2026-06-01T12:10:00Z")).validUntil,
               at("2026-06-01T13:00:00Z"));
 }
 
 TEST(MetNorway, GathersStepsIntoThePlacesOwnDays) {
     // Every hour of two days, then every six: the temperature is the hour of the series.
-    const auto series = [](const char* begin) {
+    const auto hourly = [](const char* begin) {
         QByteArrayList steps;
         for (int hour = 0; hour < 54; hour += hour < 48 ? 1 : 6) {
             const QString time =
@@ -89,7 +80,7 @@ TEST(MetNorway, GathersStepsIntoThePlacesOwnDays) {
         return seriesOf(steps.join(','));
     };
     forEachLine("weather/met_norway_days.tsv", [&](const DataLine& line) {
-        EXPECT_EQ(daysIn(service, series(line.utf8(1)), placeIn(line[0]), at(line.utf8(2))),
+        EXPECT_EQ(daysIn(service, hourly(line.utf8(1)), placeIn(line[0]), at(line.utf8(2))),
                   line[3].toStdString());
     });
     // What the six hours say about the extremes counts too.

@@ -58,19 +58,6 @@ TEST_F(WeatherFeedTest, AsksForThePlaceAndAnswersOnTheMainThread) {
               "GET /zephyrix/WeatherFeed.php?lid=12345&json=1&widget=1 HTTP/1.1");
 }
 
-TEST_F(WeatherFeedTest, ErrorComesWithAnEmptyDocument) {
-    server_.answerWith(answerBody("<html>", 404));
-    Result result = fetch();
-    ASSERT_TRUE(result.document && result.error);
-    EXPECT_EQ(result.error->domain, FeedError::parserDomain);
-
-    server_.refuse();
-    result = fetch();
-    ASSERT_TRUE(result.document && result.error);
-    EXPECT_EQ(result.error->domain, FeedError::transportDomain);
-    EXPECT_TRUE(result.document->asDict().isEmpty());
-}
-
 TEST_F(WeatherFeedTest, InvalidAddressGivesNoDocumentAndNoRequest) {
     for (const char* base : {"", "file:///etc/", "ftp://127.0.0.1/", "http://[/"}) {
         base_ = QLatin1String(base);
