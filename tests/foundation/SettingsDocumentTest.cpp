@@ -72,7 +72,7 @@ TEST_F(SettingsDocument, EachTypeSurvivesAForeignReaderAndWriter) {
         {QStringLiteral("tiny"), 5e-324},
         {QStringLiteral("true"), true},
         {QStringLiteral("date"), QDateTime(QDate(2015, 3, 29), QTime(2, 30), Qt::UTC)},
-        {QStringLiteral("data"), QByteArray(20, '\xfe')},
+        {QStringLiteral("data"), QByteArray(200, '\xfe')},
         {QStringLiteral("list"), QVariantList{1LL, false, QVariantMap{}, QVariantList{}}},
     };
     const auto store = openSuite();
