@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "SettingsFolder.h"
-#include "support/Files.h"
 #include "support/DataLines.h"
+#include "support/Files.h"
 #include "support/Programs.h"
 #include "support/TestHome.h"
 

@@ -24,7 +24,7 @@ TEST(PlaceSearch, TextThatMeansSomethingToTheIndexOrToSqlIsText) {
     forEachLine("places/strange_searches.tsv", [&](const DataLine& line) {
         EXPECT_EQ(static_cast<qint64>(list.search(line[1], 3).size()), line.integer(0));
     });
-    EXPECT_TRUE(list.search(QString(3, QChar(0xD800)), 3).empty());     // half of a pair
+    EXPECT_TRUE(list.search(QString(3, QChar(0xD800)), 3).empty());  // half of a pair
     EXPECT_TRUE(list.search(QString(1, QChar(0)) + QStringLiteral("qqq"), 3).empty());
     EXPECT_EQ(list.search(QStringLiteral("tromso") + QString(100'000, QLatin1Char(' ')), 3).size(),
               1U);
