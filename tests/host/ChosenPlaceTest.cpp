@@ -82,7 +82,7 @@ class ChosenPlaceTest : public ::testing::Test {
         panel_.runAs({QStringLiteral(PROGRAM_DIR "/zephyrix-panel-ahead")});
         panel_.choosePlace();
     }
-    [[nodiscard]] PanelProgram::Result report(const char* options) {
+    [[nodiscard]] Outcome report(const char* options) {
         return panel_.run(QString::fromLatin1(options).split(u' ') + fromFeed_);
     }
     static LocationResult chosenPlace() {

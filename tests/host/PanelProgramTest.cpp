@@ -146,8 +146,7 @@ class PanelWindowTest : public PanelProgramTest {
 /// Its libraries take longer to load than the panel to show the weather that it has.
 TEST_F(PanelWindowTest, NetworkIsLoadedByTheFirstFetchOnly) {
     panel_.choosePlace();
-    const QStringList arguments{QStringLiteral("--window"), QStringLiteral("--feed"),
-                                server_.baseAddress()};
+    const QString arguments = QStringLiteral("--window --feed ") + server_.baseAddress();
     const auto isNetworkLoaded = [this] {
         QFile maps(QStringLiteral("/proc/%1/maps").arg(process_.processId()));
         EXPECT_TRUE(maps.open(QIODevice::ReadOnly));
