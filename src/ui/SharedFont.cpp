@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include <QCache>
+#include <QFontInfo>
 #include <QPainter>
 #include <QTextLayout>
 
@@ -58,6 +59,12 @@ SharedFont::SharedFont(const QFont& font)
     : shared_(atSharedSize(font)),
       metrics_(shared_),
       scale_(static_cast<double>(font.pixelSize()) / sharedSize) {}
+
+bool SharedFont::isInstalled(const QString& family) {
+    QFont font(family);
+    font.setHintingPreference(QFont::PreferNoHinting);  // as the theme's, to share their engine
+    return QFontInfo(atSharedSize(font)).family() == family;
+}
 
 double SharedFont::width(const QString& run) const {
     return scale_ * measured(run, [&] { return metrics_.horizontalAdvance(run); });

@@ -17,6 +17,10 @@ class SharedFont {
   public:
     explicit SharedFont(const QFont& font);
 
+    /// Told by the engine that stands for the family: to ask whether it is there, or to name one
+    /// that may stand for it, would be one more look through the font configuration.
+    [[nodiscard]] static bool isInstalled(const QString& family);
+
     /// Whether it can draw the character, instead of the box that stands for a missing one.
     [[nodiscard]] bool has(QChar character) const { return metrics_.inFont(character); }
 

@@ -9,6 +9,8 @@
 #include <QScreen>
 #include <QWidget>
 
+#include "SharedFont.h"
+
 namespace zephyrix {
 
 namespace {
@@ -76,9 +78,11 @@ std::optional<Scheme>& givenScheme() {
 }
 
 // Inter reads best with Latin and Cyrillic at these sizes; without it the desktop's own font is
-// used. To ask whether it is there would be to ask the font configuration once more.
-QStringList fontFamilies() {
-    return {QStringLiteral("Inter"), QApplication::font().family()};
+// used.
+QString fontFamily() {
+    const auto inter = QStringLiteral("Inter");
+    static const bool hasInter = SharedFont::isInstalled(inter);
+    return hasInter ? inter : QApplication::font().family();
 }
 
 }  // namespace
@@ -111,7 +115,7 @@ QColor Theme::color(Color color, Scheme scheme) {
 
 QFont Theme::font(TextStyle style) {
     const TextStyleRow& row = rowOf(style);
-    QFont font(fontFamilies());
+    QFont font(fontFamily());
     font.setPixelSize(scaled(row.size));
     font.setWeight(row.weight);
     font.setHintingPreference(QFont::PreferNoHinting);
