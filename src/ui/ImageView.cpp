@@ -1,6 +1,7 @@
 #include "ImageView.h"
 
 #include <algorithm>
+#include <array>
 
 #include <QEvent>
 #include <QFile>
@@ -17,6 +18,13 @@ namespace {
 
 // Turning blurs by half a pixel, which is not seen when it happens at twice the size.
 constexpr int turnedAt = 2;
+
+/// Of a catalogue's image, in a folder of its own, that many pixels wide and high.
+struct SmallerCopy {
+    const char* folder;
+    int side;
+};
+constexpr std::array smallerCopies{SmallerCopy{"quarter/", 60}, SmallerCopy{"half/", 120}};
 
 QImage catalogueImage(const QString& path) {
     constexpr int longestSide = 1024;  // pixels
@@ -65,16 +73,23 @@ QString ImageView::catalogueName() const {
     return Bundle::main().pathForImage(name).isEmpty() ? imageName_ : name;
 }
 
-// Most screens need no more than the half size, which is a quarter of the work.
+// Most screens need no more than a smaller copy, which takes a quarter of the work or less.
 void ImageView::readCatalogueImage(const QSize& pixels) {
-    constexpr int halfSize = 120;  // pixels
-    const bool needsAll = std::max(pixels.width(), pixels.height()) > halfSize;
-    if (!image_.isNull() && !(isHalf_ && needsAll))
+    const int needed = std::max(pixels.width(), pixels.height());
+    if (!image_.isNull() && needed <= largestNeed_)
         return;
     const QString name = catalogueName();
-    const QString half = Bundle::main().pathForImage(QStringLiteral("half/") + name);
-    isHalf_ = !needsAll && !half.isEmpty();
-    image_ = catalogueImage(isHalf_ ? half : Bundle::main().pathForImage(name));
+    QString path = Bundle::main().pathForImage(name);
+    largestNeed_ = QWIDGETSIZE_MAX;
+    for (const SmallerCopy& copy : smallerCopies) {
+        const QString smaller = Bundle::main().pathForImage(QLatin1String(copy.folder) + name);
+        if (needed > copy.side || smaller.isEmpty())
+            continue;
+        path = smaller;
+        largestNeed_ = copy.side;
+        break;
+    }
+    image_ = catalogueImage(path);
     ready_ = QImage();
 }
 

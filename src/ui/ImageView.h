@@ -10,7 +10,7 @@ namespace zephyrix {
 class ImageView : public QWidget {
     Q_OBJECT
     /// An image of the bundle's catalogue ("WindLabelSquare.png"); read when it is first painted,
-    /// at half size ("half/WindLabelSquare.png") where that has enough pixels.
+    /// at half its size ("half/WindLabelSquare.png") or a quarter where that has enough pixels.
     Q_PROPERTY(QString imageName READ imageName WRITE setImageName)
     /// Takes the catalogue's image for the theme's ground instead: "WindLabelSquare-light.png" or
     /// "WindLabelSquare-dark.png", and the plain one where there is none for it.
@@ -48,7 +48,7 @@ class ImageView : public QWidget {
     QImage image_;
     QImage ready_;  // what was painted last, in device pixels; null after a change
     QString imageName_;
-    bool isHalf_ = false;  // the image is the catalogue's at half size
+    int largestNeed_ = 0;  // pixels; beyond them, another copy of the catalogue's image is read
     double rotation_ = 0.0;
     bool followsScheme_ = false;
 };
