@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <png.h>
+#include <zlib.h>
 
 #include <QtEndian>
 
@@ -11,6 +12,7 @@ namespace {
 
 constexpr qsizetype signatureSize = 8;
 constexpr qsizetype headSize = 8;  // of a chunk: the length of its content, and its name
+constexpr qsizetype nameSize = 4;
 constexpr qsizetype checksumSize = 4;
 
 /// The chunks of a PNG file, one after the other.
@@ -30,7 +32,9 @@ class Chunks {
         return true;
     }
 
-    [[nodiscard]] bool is(QByteArrayView name) const { return file_.sliced(at_ + 4, 4) == name; }
+    [[nodiscard]] bool is(QByteArrayView name) const {
+        return file_.sliced(at_ + nameSize, nameSize) == name;
+    }
     [[nodiscard]] QByteArrayView content() const {
         return file_.sliced(at_ + headSize, end_ - at_ - headSize - checksumSize);
     }
@@ -59,6 +63,24 @@ struct Codec {
     png_image image{};
 };
 
+constexpr png_uint_32 straightAlpha =
+    Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? PNG_FORMAT_BGRA : PNG_FORMAT_ARGB;  // the toolkit's ARGB32
+
+QByteArray bigEndian(std::uint32_t number) {
+    QByteArray bytes(sizeof number, Qt::Uninitialized);
+    qToBigEndian(number, bytes.data());
+    return bytes;
+}
+
+QByteArray textChunk(const QByteArray& keyword, const QByteArray& text) {
+    const QByteArray content = keyword + '\0' + text;
+    const QByteArray checked = "tEXt" + content;
+    const uLong checksum = ::crc32(0, reinterpret_cast<const Bytef*>(checked.constData()),
+                                   static_cast<uInt>(checked.size()));
+    return bigEndian(static_cast<std::uint32_t>(content.size())) + checked +
+           bigEndian(static_cast<std::uint32_t>(checksum));
+}
+
 }  // namespace
 
 QImage readPng(const QByteArray& file, int longestSide) {
@@ -75,7 +97,7 @@ QImage readPng(const QByteArray& file, int longestSide) {
                  QImage::Format_ARGB32);
     if (image.isNull())
         return {};
-    codec.image.format = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? PNG_FORMAT_BGRA : PNG_FORMAT_ARGB;
+    codec.image.format = straightAlpha;
     const auto stride = static_cast<png_int_32>(image.bytesPerLine());
     if (png_image_finish_read(&codec.image, nullptr, image.bits(), stride, nullptr) == 0)
         return {};
@@ -93,6 +115,24 @@ QByteArray pngText(const QByteArray& file, QByteArrayView keyword) {
             return content.sliced(nothing + 1).toByteArray();
     }
     return {};
+}
+
+QByteArray pngOf(const QImage& image, const QByteArray& keyword, const QByteArray& text) {
+    constexpr qsizetype headerEnd = signatureSize + headSize + 13 + checksumSize;
+    const QImage straight = image.convertToFormat(QImage::Format_ARGB32);
+    Codec codec;
+    codec.image.width = static_cast<png_uint_32>(straight.width());
+    codec.image.height = static_cast<png_uint_32>(straight.height());
+    codec.image.format = straightAlpha;
+    codec.image.flags = PNG_IMAGE_FLAG_FAST;
+    png_alloc_size_t size = straight.isNull() ? 0 : PNG_IMAGE_PNG_SIZE_MAX(codec.image);
+    QByteArray file(static_cast<qsizetype>(size), Qt::Uninitialized);
+    const auto stride = static_cast<png_int_32>(straight.bytesPerLine());
+    if (size == 0 || png_image_write_to_memory(&codec.image, file.data(), &size, 0,
+                                               straight.constBits(), stride, nullptr) == 0)
+        return {};
+    file.truncate(static_cast<qsizetype>(size));
+    return file.insert(headerEnd, textChunk(keyword, text));
 }
 
 }  // namespace zephyrix

@@ -2,11 +2,9 @@
 
 #include <algorithm>
 
-#include <QBuffer>
 #include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
-#include <QImageWriter>
 
 #include "png/PngImage.h"
 
@@ -17,27 +15,16 @@ namespace {
 constexpr int largestSide = 4096;                 // pixels
 constexpr qint64 largestFile = qint64{64} << 20;  // bytes: as much as the largest image
 constexpr double largestScale = 16.0;
-// Of Qt's 0 (smallest file) to 100: a third of the default's time for a file a little larger.
-constexpr int pngQuality = 80;
 constexpr auto ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 
 /// The keyword under which a PNG file says the scale of its image.
 constexpr auto scaleTag = "Scale";
 
-QByteArray encoded(const QImage& image) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    QImageWriter writer(&buffer, QByteArrayLiteral("png"));
-    writer.setQuality(pngQuality);
-    writer.setText(QLatin1String(scaleTag), QString::number(image.devicePixelRatio()));
-    return writer.write(image) ? bytes : QByteArray();
-}
-
 /// Deliberately in place: a reader that finds half a file takes it for none.
 void writeFile(const QImage& image, const QString& path) {
     if (const QFileInfo there(path); there.exists() && !there.isFile())
         return;  // a pipe would make us wait
-    const QByteArray bytes = encoded(image);
+    const QByteArray bytes = pngOf(image, scaleTag, QByteArray::number(image.devicePixelRatio()));
     QFile file(path);
     if (bytes.isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::Unbuffered, ownerOnly))
         return;
