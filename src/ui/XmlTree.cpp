@@ -28,9 +28,9 @@ class Builder {
     }
 
     static void said(void* builder, const XML_Char* text, int length) {
-        XmlElement& element = static_cast<Builder*>(builder)->open_.back();
-        if (element.children.empty())
-            element.text += QString::fromUtf8(text, length);
+        if (QByteArrayView(text, length).trimmed().isEmpty())
+            return;  // between elements
+        static_cast<Builder*>(builder)->open_.back().text += QString::fromUtf8(text, length);
     }
 
     [[nodiscard]] XmlElement takeRoot() { return std::move(open_.front()); }

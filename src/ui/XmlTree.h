@@ -13,7 +13,7 @@ namespace zephyrix {
 struct XmlElement {
     QByteArray name;
     std::vector<std::pair<QByteArray, QString>> attributes;
-    QString text;  // of an element without elements
+    QString text;  // as far as it is not blank
     std::vector<XmlElement> children;
 
     [[nodiscard]] bool is(QByteArrayView otherName) const { return name == otherName; }
