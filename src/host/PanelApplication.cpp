@@ -13,6 +13,7 @@
 #include "FeedAddress.h"
 #include "LivePanel.h"
 #include "OnlyInstance.h"
+#include "PaintGate.h"
 #include "PaintTime.h"
 #include "PanelDisplay.h"
 #include "RowReport.h"
@@ -49,6 +50,7 @@ class Panel {
         display.hold(*live_);
         display_ = &display;
         QObject::connect(&instance, &OnlyInstance::shownAgain, &display, &PanelDisplay::show);
+        QObject::connect(&display, &PanelDisplay::painted, &receiver_, [this] { gate_.open(); });
         if (options_.paintTime)
             tellPaintTimes();
         display.show();
@@ -62,6 +64,7 @@ class Panel {
 
     /// Ends when it is told to, and when nobody reads its lines.
     int follow(QTextStream& out) {
+        gate_.open();
         BarFollower follower(BarFormat(*options_.format), out);
         QObject::connect(&follower, &BarFollower::abandoned, qApp, [] { QApplication::quit(); });
         follower_ = &follower;
@@ -72,6 +75,7 @@ class Panel {
     }
 
     int report(QTextStream& out) {
+        gate_.open();
         controller().viewWillAppear(false);
         if (controller().isRefreshing()) {
             QObject::connect(&controller(), &TodayViewController::refreshed, qApp,
@@ -103,8 +107,8 @@ class Panel {
 
     void makeLive(bool expanded) {
         live_ = std::make_unique<LivePanel>(
-            feedAddress(options_.feed, UserDefaults::standard(), ownServer_), context_,
-            LivePanel::Size{width(), scale()}, expanded);
+            gate_.before(feedAddress(options_.feed, UserDefaults::standard(), ownServer_)),
+            context_, LivePanel::Size{width(), scale()}, expanded);
         // Queued, as the sender does not survive it.
         QObject::connect(
             live_.get(), &LivePanel::placeChanged, &receiver_, [this] { startOver(); },
@@ -157,6 +161,7 @@ class Panel {
 
     const PanelOptions& options_;
     FeedChild ownServer_;
+    PaintGate gate_;
     DesktopContext context_;
     std::unique_ptr<LivePanel> live_;
     QObject receiver_;

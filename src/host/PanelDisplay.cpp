@@ -157,6 +157,7 @@ PanelWindow& PanelDisplay::window() {
         window_ = std::make_unique<PanelWindow>(width_);
         connect(window_.get(), &PanelFrame::closed, this, &PanelDisplay::frameClosed);
         connect(window_.get(), &PanelFrame::minimized, this, &PanelDisplay::followWindow);
+        connect(window_.get(), &PanelFrame::painted, this, &PanelDisplay::painted, afterFirstPaint);
         connect(
             window_.get(), &PanelFrame::painted, qApp,
             [] { QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zephyrix"))); },
@@ -169,6 +170,7 @@ PanelPopup& PanelDisplay::popup() {
     if (!popup_) {
         popup_ = std::make_unique<PanelPopup>(width_);
         connect(popup_.get(), &PanelFrame::closed, this, &PanelDisplay::frameClosed);
+        connect(popup_.get(), &PanelFrame::painted, this, &PanelDisplay::painted, afterFirstPaint);
         connect(popup_.get(), &PanelFrame::painted, this, &PanelDisplay::addIcon, afterFirstPaint);
     }
     return *popup_;

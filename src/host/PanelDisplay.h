@@ -39,6 +39,10 @@ class PanelDisplay : public QObject {
     void show();
     void hide();
 
+  Q_SIGNALS:
+    /// After the first paint of the popup, and of the window.
+    void painted();
+
   private:
     void showAtCursor();
     void showIn(PanelFrame& frame);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "host/FeedAddress.h"
+#include "host/PaintGate.h"
 #include "support/DataLines.h"
 #include "support/TestHome.h"
 
@@ -37,6 +38,23 @@ TEST(FeedAddress, PlainHttpComesFromThisMachineUnlessTheUserSaysOtherwise) {
         settings.set(QStringLiteral("allowPlainHttp"), true);
         EXPECT_EQ(ask({}), address);
     });
+}
+
+TEST(PaintGate, TheFeedIsAskedAfterTheFirstPaintAndThenAtOnce) {
+    int asked = 0;
+    QStringList answers;
+    const auto take = [&](const QString& base) { answers << base; };
+    PaintGate gate;
+    const WeatherFeed::BaseAddress address =
+        gate.before([&](const auto& then) { then(QString::number(++asked)); });
+    address(take);
+    address(take);
+    EXPECT_EQ(asked, 0);
+    gate.open();
+    EXPECT_EQ(answers.join(u' '), QStringLiteral("1 2"));
+    gate.open();
+    address(take);
+    EXPECT_EQ(answers.join(u' '), QStringLiteral("1 2 3"));
 }
 
 }  // namespace
