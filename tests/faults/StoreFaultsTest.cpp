@@ -126,7 +126,7 @@ TEST_F(StoreFaults, CacheFolderThatVanishesIsNotMissed) {
     const QString cache = panel_.home() + QStringLiteral("/cache/zephyrix-panel");
     const QDir symbols(cache + QStringLiteral("/symbolCache"));
     const auto hasSymbol = [&] { return !symbols.entryList(QDir::Files).isEmpty(); };
-    ASSERT_TRUE(waitUntil(hasSymbol));
+    ASSERT_TRUE(waitUntil([&] { return hasSymbol() && server_.requestLines().size() == 1; }));
     ASSERT_TRUE(QDir(cache).removeRecursively());
     // Another place lets the panel start over.
     panel_.choosePlace(77);
