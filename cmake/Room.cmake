@@ -44,9 +44,10 @@ endfunction()
 #
 #   zephyrix_module(<name> SOURCES <files...> USES <libraries and rooms...>)
 #
-# Programs find it in the folder ZEPHYRIX_MODULES_DIR as seen from their own.
+# Programs find it in the folder ZEPHYRIX_MODULES_DIR as seen from their own. It lies two folders below
+# the libraries' one: a package with any nearer makes the loader read its folders anew when installed.
 file(RELATIVE_PATH ZEPHYRIX_MODULES_DIR
-    "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}/zephyrix")
+    "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}/zephyrix/modules")
 function(zephyrix_module name)
     cmake_parse_arguments(PARSE_ARGV 1 module "" "" "SOURCES;USES")
     add_library(${name} MODULE ${module_SOURCES})
@@ -59,7 +60,7 @@ function(zephyrix_module name)
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON
         LIBRARY_OUTPUT_DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${ZEPHYRIX_MODULES_DIR}")
-    install(TARGETS ${name} LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}/zephyrix")
+    install(TARGETS ${name} LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}/zephyrix/modules")
 endfunction()
 
 # The tests of a room: one program, one entry of ctest. It links that room and nothing above it.

@@ -18,8 +18,8 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 in words, wind, rain and pressure; and, opened up, the next days. It lives in
 the tray where there is one, and in a window elsewhere.
 .
-Until a public weather service is chosen it shows demonstration weather, and says
-so.")
+Until a public weather service is chosen it shows demonstration weather, and
+says so.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS tzdata)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "ca-certificates, fonts-inter, qt6-wayland, xdg-utils")
