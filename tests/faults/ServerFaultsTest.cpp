@@ -83,9 +83,11 @@ TEST_F(ServerFaults, LeaveTheDocumentThatWasThere) {
     const QVariant before = age();
     for (const Fault& fault : faults) {
         server_.answerWith(fault.answer);
+        resetPeakMemory();  // the server's own, while it had more to send than was taken
         expectKept(before, report(), fault.what, fault.told);
     }
     server_.refuse();
+    resetPeakMemory();
     expectKept(before, report(), "refuses", "Transport error 1: Connection refused");
 
     const qint64 grown = largestPanel() - usual;
@@ -93,7 +95,8 @@ TEST_F(ServerFaults, LeaveTheDocumentThatWasThere) {
                 static_cast<double>(usual + grown) / mebibyte,
                 static_cast<double>(grown) / mebibyte);
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)  // they keep freed memory
-    EXPECT_LT(grown, 40 * mebibyte);
+    // Of zeros, the 64 KiB that the toolkit reads at a time can be 64 MiB when they are unpacked.
+    EXPECT_LT(grown, 80 * mebibyte);
 #endif
 }
 
