@@ -14,6 +14,7 @@ constexpr qsizetype signatureSize = 8;
 constexpr qsizetype headSize = 8;  // of a chunk: the length of its content, and its name
 constexpr qsizetype nameSize = 4;
 constexpr qsizetype checksumSize = 4;
+constexpr qsizetype headerContentSize = 13;  // of the first chunk, "IHDR"
 
 /// The chunks of a PNG file, one after the other.
 class Chunks {
@@ -110,15 +111,15 @@ QByteArray pngText(const QByteArray& file, QByteArrayView keyword) {
         if (!chunks.is("tEXt"))
             continue;
         const QByteArrayView content = chunks.content();
-        const qsizetype nothing = content.indexOf('\0');
-        if (nothing >= 0 && content.first(nothing) == keyword)
-            return content.sliced(nothing + 1).toByteArray();
+        const qsizetype terminator = content.indexOf('\0');
+        if (terminator >= 0 && content.first(terminator) == keyword)
+            return content.sliced(terminator + 1).toByteArray();
     }
     return {};
 }
 
 QByteArray pngOf(const QImage& image, const QByteArray& keyword, const QByteArray& text) {
-    constexpr qsizetype headerEnd = signatureSize + headSize + 13 + checksumSize;
+    constexpr qsizetype headerEnd = signatureSize + headSize + headerContentSize + checksumSize;
     const QImage straight = image.convertToFormat(QImage::Format_ARGB32);
     Codec codec;
     codec.image.width = static_cast<png_uint_32>(straight.width());
