@@ -28,9 +28,10 @@ class Builder {
     }
 
     static void said(void* builder, const XML_Char* text, int length) {
-        if (QByteArrayView(text, length).trimmed().isEmpty())
+        QString& all = static_cast<Builder*>(builder)->open_.back().text;
+        if (all.isEmpty() && QByteArrayView(text, length).trimmed().isEmpty())
             return;  // between elements
-        static_cast<Builder*>(builder)->open_.back().text += QString::fromUtf8(text, length);
+        all += QString::fromUtf8(text, length);
     }
 
     [[nodiscard]] XmlElement takeRoot() { return std::move(open_.front()); }

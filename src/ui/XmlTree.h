@@ -13,7 +13,7 @@ namespace zephyrix {
 struct XmlElement {
     QByteArray name;
     std::vector<std::pair<QByteArray, QString>> attributes;
-    QString text;  // as far as it is not blank
+    QString text;  // without blank lines before it; empty when it is blank
     std::vector<XmlElement> children;
 
     [[nodiscard]] bool is(QByteArrayView otherName) const { return name == otherName; }

@@ -66,6 +66,14 @@ TEST(Nib, ViewsAreAsDescribed) {
     EXPECT_EQ(grid->itemAtPosition(1, 1)->alignment(), Qt::AlignHCenter);
 }
 
+TEST(Nib, TextsKeepTheirBlanksAndLineBreaks) {
+    const std::unique_ptr<Label> label(
+        nibOf("<widget class=\"Label\" name=\"label\">\n <property name=\"text\">\n  "
+              "<string>one\n\n&lt; &gt; two</string>\n </property>\n</widget>")
+            .instantiate<Label>(nullptr));
+    EXPECT_EQ(label->text(), QStringLiteral("one\n\n< > two"));
+}
+
 TEST(Nib, WithoutOrWithABrokenDescriptionGivesNothing) {
     EXPECT_EQ(Nib(QStringLiteral("NoSuchLayout")).instantiate(), nullptr);
     const QByteArray whole =
